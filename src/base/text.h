@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+// Single-byte text (Windows-1252): columns that count from 1, padding, case, trimming, lines and items.
+// Leans on the standard library alone; every other folder calls it, and none does its own arithmetic on columns.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace text {
+
+/// Columns first to last, both included and counted from 1; columns beyond the end of the line are left out.
+std::string_view columns(std::string_view line, int first, int last);
+/// All columns from `first` (counted from 1) on.
+std::string_view from(std::string_view line, int first);
+/// The first `count` characters, or all of a shorter text.
+std::string_view left(std::string_view line, int count);
+/// The last `count` characters, or all of a shorter text.
+std::string_view right(std::string_view line, int count);
+/// Without the blanks (32 alone, no tabs) at the start, at the end, or both.
+std::string_view trimLeft(std::string_view line);
+std::string_view trimRight(std::string_view line);
+std::string_view trim(std::string_view line);
+/// Left-aligned in `width` columns: padded with blanks, cut where longer.
+std::string pad(std::string_view value, int width);
+/// Both cases of Windows-1252 letters, accented ones included.
+std::string upper(std::string_view value);
+std::string lower(std::string_view value);
+char upper(char character);
+char lower(char character);
+/// The same text when case is not looked at.
+bool same(std::string_view one, std::string_view other);
+bool startsWith(std::string_view value, std::string_view start);
+bool endsWith(std::string_view value, std::string_view end);
+bool contains(std::string_view value, std::string_view part);
+bool isDigit(char character);
+/// `count` blanks; none for a count below 1.
+std::string blanks(int count);
+/// The lines of a file's content without their ends (CR LF, a lone LF or a lone CR). A last line without an end counts.
+std::vector<std::string> lines(std::string_view content);
+/// The items of a content separated by commas and line ends. A quoted item runs to its closing quote and what
+/// follows up to the separator is dropped; an unquoted one loses the blanks around it. An empty line is one empty item.
+std::vector<std::string> items(std::string_view content);
+/// `width` digits with leading zeros; the sign, where there is one, comes in front.
+std::string digits(long value, int width);
+/// Whether a name matches a pattern of literal characters, `*` and `?`, in any case.
+bool matches(std::string_view name, std::string_view pattern);
+
+}  // namespace text

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+// The state of one logging session: one contest log held whole in memory, and all that is derived from it.
+// Leans on base; every subsystem reads and writes it through the Station.
+// The names of the fields are fixed: scripts and the other programs of the station know them.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "base/table.h"
+
+/// Lines 1 and 2 are headers, QSO lines start at 3.
+constexpr int kFirstQsoLine = 3;
+constexpr int kFirstBand = 1;
+constexpr int kLastBand = 13;
+/// Two headers and 2500 QSOs.
+constexpr int kLogLineLimit = 2502;
+
+template <typename T>
+using PerBand = Table<T, 0, 14>;
+
+struct Session {
+    Table<std::string, 0, 3001> LogLines;
+    Int16 LogLineCount;
+    std::string LogFileName;
+    Int16 LogOpenMode;
+    bool LogIsEmpty = false;
+    std::string ContestNumber;
+    std::string ContestName;
+    std::string StartDate;
+    Int16 CurrentBand;
+    Int16 GridTotal;
+    Int16 DupeCount;
+    float TotalScore = 0;
+    Int32 TotalQSOPoints;
+    std::string AppPath;
+    std::string ProgramVersion;
+    Int16 SetupLoaded;
+
+    PerBand<std::string> BandName;
+    PerBand<Int16> BandQSOs;
+    PerBand<Int16> BandGrids;
+    PerBand<Int16> BandPoints;
+    PerBand<Int32> BandQSOPoints;
+    PerBand<Int32> BandScore;
+    PerBand<bool> BandWorked;
+
+    std::string CurrentCall;
+    std::string QSOPoints;
+    std::string NewGridMark;
+    std::string UTCTime;
+    std::string UTCDate;
+    bool DupeAccepted = false;
+    bool DupeCheckDone = false;
+    Int16 LookupHit;
+    bool CallOK = false;
+    bool GridEntered = false;
+    std::string LastCall;
+    std::string LastGrid;
+    Int16 MatchCount;
+    Table<std::string, 0, 30> MatchBand;
+    Table<Table<std::string, 0, 2>, 0, 30> MatchList;
+    Table<Table<std::string, 0, 2>, 0, 30> MatchSorted;
+    /// The bands that a lookup offers for the station in work, by band index; a worked one is blank.
+    PerBand<std::string> StationBands;
+
+    float UtcOffsetHours = 0;
+    Int16 UtcOffsetHalf;
+    std::string AlarmTime;
+    std::string RefreshRequest;
+    std::string UtcCheckDone;
+
+    Table<std::string, 1, 40> ActivityHours;
+    Int16 ActivityCount;
+    Table<std::string, 1, 27> LetterTable;
+    Table<std::string, 1, 100> SyllableList;
+    Int16 SelectedMap;
+    std::string PopUpTopic;
+    Int16 TXActive;
+    bool CWCancel = false;
+};
