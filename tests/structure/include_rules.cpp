@@ -140,7 +140,7 @@ void checkInclude(const SourceFile& file, const Include& include, const std::set
 
 // Walks the includes depth first; a file met again while it is still open closes a circle.
 class CircleSearch {
-  public:
+public:
     explicit CircleSearch(const Graph& graph) : graph_(graph) {}
 
     Faults run() {
@@ -148,7 +148,7 @@ class CircleSearch {
         return faults_;
     }
 
-  private:
+private:
     void visit(const std::string& path) {
         const auto open = std::find(open_.begin(), open_.end(), path);
         if (open != open_.end()) {
