@@ -220,7 +220,7 @@ void MenuItem::setChecked(bool checked) {
 }
 
 bool MenuItem::reachable() const {
-    return usable() && (parent_ == nullptr || parent_->reachable());
+    return usable() && (parent_ == nullptr || parent_->popUpOpen_ || parent_->reachable());
 }
 
 }  // namespace forms

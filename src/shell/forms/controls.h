@@ -167,11 +167,14 @@ public:
     void setChecked(bool checked);
     /// Usable, and so is every menu above it. A pop-up menu's items are usable while it is open.
     bool reachable() const;
+    /// Whether this menu, hidden from the bar or not, lies open at the pointer (see Screen::openPopUp).
+    bool popUpOpen() const { return popUpOpen_; }
+    void setPopUpOpen(bool open) { popUpOpen_ = open; }
 
 private:
     MenuItem* parent_;
     std::vector<MenuItem*> children_;
-    bool checked_ = false;
+    bool checked_ = false, popUpOpen_ = false;
 };
 
 }  // namespace forms

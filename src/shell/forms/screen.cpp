@@ -48,17 +48,21 @@ bool Screen::dispatch(const std::function<void()>& event) {
 bool Screen::press(const KeyStroke& stroke) {
     Form* const form = active();
     if (form == nullptr) return false;
+    closePopUp();
     dispatch([&] { form->press(stroke); });
     return true;
 }
 
 bool Screen::reachable(const Control& control) const {
+    if (!control.form().visible()) return false;
     if (const auto* item = dynamic_cast<const MenuItem*>(&control)) return item->reachable();
     return control.usable();
 }
 
 bool Screen::click(Control& control, int row) {
-    if (!reachable(control)) return false;
+    const bool reached = reachable(control);
+    closePopUp();
+    if (!reached) return false;
     dispatch([&] {
         bringToFront(control.form());
         control.form().focus(control);
@@ -72,7 +76,9 @@ bool Screen::click(Control& control, int row) {
 }
 
 bool Screen::doubleClick(Control& control, int row) {
-    if (!reachable(control)) return false;
+    const bool reached = reachable(control);
+    closePopUp();
+    if (!reached) return false;
     dispatch([&] {
         if (auto* list = dynamic_cast<ListBox*>(&control)) {
             list->doubleClickRow(row);
@@ -84,11 +90,43 @@ bool Screen::doubleClick(Control& control, int row) {
 }
 
 bool Screen::rightClick(Control& control) {
-    if (!reachable(control)) return false;
+    const bool reached = reachable(control);
+    closePopUp();
+    if (!reached) return false;
     dispatch([&] {
         if (control.onRightClick) control.onRightClick();
     });
     return true;
+}
+
+bool Screen::click(Form& form) {
+    closePopUp();
+    if (!form.visible()) return false;
+    dispatch([&] {
+        bringToFront(form);
+        if (form.onClick) form.onClick();
+    });
+    return true;
+}
+
+bool Screen::rightClick(Form& form) {
+    closePopUp();
+    if (!form.visible()) return false;
+    dispatch([&] {
+        if (form.onRightClick) form.onRightClick();
+    });
+    return true;
+}
+
+void Screen::openPopUp(MenuItem& menu) {
+    closePopUp();
+    popUp_ = &menu;
+    menu.setPopUpOpen(true);
+}
+
+void Screen::closePopUp() {
+    if (popUp_) popUp_->setPopUpOpen(false);
+    popUp_ = nullptr;
 }
 
 void Screen::schedule(std::int64_t now) {

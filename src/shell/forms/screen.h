@@ -47,6 +47,15 @@ public:
     bool click(Control& control, int row = -1);
     bool doubleClick(Control& control, int row = -1);
     bool rightClick(Control& control);
+    /// Clicks on the bare surface of a form; false where the form is hidden.
+    bool click(Form& form);
+    bool rightClick(Form& form);
+    /// Whether a click on the control would reach it: it and its form are to be seen, and it is enabled.
+    bool reachable(const Control& control) const;
+
+    /// Opens a pop-up menu. It closes with the next click or key, wherever that goes.
+    void openPopUp(MenuItem& menu);
+    void closePopUp();
 
     /// Fires the timers that are due, the longest due first, each once. `now` is the platform's count of milliseconds.
     /// Nothing fires while a dialog is open.
@@ -72,11 +81,11 @@ private:
     void formShown(Form& form);
     void formHidden(Form& form);
     void schedule(std::int64_t now);
-    bool reachable(const Control& control) const;
 
     std::vector<Form*> forms_;
     std::vector<Form*> order_;
     std::vector<Clocked> clocked_;
+    MenuItem* popUp_ = nullptr;
     int dialogs_ = 0;
     bool ended_ = false;
 };
