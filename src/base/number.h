@@ -8,14 +8,15 @@
 
 namespace number {
 
-/// The number at the start of a text: blanks are passed over, "&H" leads hexadecimal digits, an exponent may follow;
-/// 0 where no number stands there.
+/// The number at the start of a text: blanks are passed over, "&H" leads hexadecimal digits, an exponent may
+/// follow; 0 where no number stands there.
 double valueOf(std::string_view value);
 /// The same as a whole number, rounded half to even. Raises "Overflow" outside 32 bits.
 std::int32_t wholeOf(std::string_view value);
 /// Rounded half to even, as a whole number. Raises "Overflow" outside 32 bits.
 std::int32_t rounded(double value);
-/// The shortest usual text of a number with up to 15 significant digits: "3", "3.33333333333333", "-0.5", "1E+20".
+/// The shortest usual text of a number with up to 15 significant digits: "3", "3.33333333333333", "-0.5",
+/// "1E+20".
 std::string toText(double value);
 /// The same for a single-precision number, with up to 7 significant digits.
 std::string toText(float value);

@@ -14,6 +14,8 @@ template <typename T>
 class Checked {
 public:
     constexpr Checked(std::int64_t value = 0) : value_(narrow(value)) {}
+    template <typename U>
+    constexpr Checked(const Checked<U>& other) : Checked(std::int64_t{static_cast<U>(other)}) {}
     constexpr operator T() const { return value_; }
     Checked& operator+=(std::int64_t other) {
         value_ = narrow(std::int64_t{value_} + other);

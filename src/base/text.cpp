@@ -141,7 +141,8 @@ std::vector<std::string> items(std::string_view content) {
         while (at < content.size() && content[at] == ' ') ++at;
         if (at < content.size() && content[at] == '"') {
             const std::size_t close = content.find('"', at + 1);
-            result.emplace_back(content.substr(at + 1, close == std::string_view::npos ? close : close - at - 1));
+            result.emplace_back(
+                content.substr(at + 1, close == std::string_view::npos ? close : close - at - 1));
             at = close == std::string_view::npos ? content.size() : close + 1;
             while (at < content.size() && !endsItem(content[at])) ++at;
         } else {
@@ -165,7 +166,8 @@ std::string digits(long value, int width) {
 bool matches(std::string_view name, std::string_view pattern) {
     std::size_t n = 0, p = 0, star = std::string_view::npos, mark = 0;
     while (n < name.size()) {
-        if (p < pattern.size() && (pattern[p] == '?' || (pattern[p] != '*' && lower(pattern[p]) == lower(name[n])))) {
+        if (p < pattern.size() &&
+            (pattern[p] == '?' || (pattern[p] != '*' && lower(pattern[p]) == lower(name[n])))) {
             ++n, ++p;
         } else if (p < pattern.size() && pattern[p] == '*') {
             star = p++, mark = n;

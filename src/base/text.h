@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Single-byte text (Windows-1252): columns that count from 1, padding, case, trimming, lines and items.
-// Leans on the standard library alone; every other folder calls it, and none does its own arithmetic on columns.
+// Leans on the standard library alone; every other folder calls it, and none does its own arithmetic on
+// columns.
 #pragma once
 
 #include <string>
@@ -36,10 +37,12 @@ bool contains(std::string_view value, std::string_view part);
 bool isDigit(char character);
 /// `count` blanks; none for a count below 1.
 std::string blanks(int count);
-/// The lines of a file's content without their ends (CR LF, a lone LF or a lone CR). A last line without an end counts.
+/// The lines of a file's content without their ends (CR LF, a lone LF or a lone CR). A last line without an
+/// end counts.
 std::vector<std::string> lines(std::string_view content);
 /// The items of a content separated by commas and line ends. A quoted item runs to its closing quote and what
-/// follows up to the separator is dropped; an unquoted one loses the blanks around it. An empty line is one empty item.
+/// follows up to the separator is dropped; an unquoted one loses the blanks around it. An empty line is one
+/// empty item.
 std::vector<std::string> items(std::string_view content);
 /// `width` digits with leading zeros; the sign, where there is one, comes in front.
 std::string digits(long value, int width);

@@ -74,6 +74,11 @@ struct Session {
     Int16 ActivityCount;
     Table<std::string, 1, 27> LetterTable;
     Table<std::string, 1, 100> SyllableList;
+    Table<Table<std::string, 0, 1>, 1, 500> SixDigitTable;
+    Int16 SixDigitCount;
+    std::string RecipGrid;
+    std::string IFOffsetDummy;
+    Int16 CWSpeed = 20;
     Int16 SelectedMap;
     std::string PopUpTopic;
     Int16 TXActive;

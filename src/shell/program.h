@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The program as a whole: one station with every control wired to its routine.
-// Leans on every subsystem; the two fronts (shell/headless, shell/qt) build one over their platform, start it and feed
-// its screen with keys, clicks and time.
+// Leans on every subsystem; the two fronts (shell/headless, shell/qt) build one over their platform, start it
+// and feed its screen with keys, clicks and time.
 #pragma once
 
 #include "core/station.h"

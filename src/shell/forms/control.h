@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // One control of a form, as a plain object: its properties, its events, and what a key does to it.
-// Leans on base alone; forms register their controls by name; routines read and set them; shell/qt mirrors them in
-// widgets; shell/headless addresses them by name.
+// Leans on base alone; forms register their controls by name; routines read and set them; shell/qt mirrors
+// them in widgets; shell/headless addresses them by name.
 #pragma once
 
 #include <functional>
@@ -20,11 +20,49 @@ constexpr Colour kRed = 255;
 constexpr Colour rgb(int red, int green, int blue) { return red + 256 * green + 65536 * blue; }
 
 /// What of a control has changed, for the one who mirrors it.
-enum class Property { Text, Caret, Visible, Enabled, Colours, Font, ToolTip, Items, Selection, Checked, Place };
+enum class Property {
+    Text,
+    Caret,
+    Visible,
+    Enabled,
+    Colours,
+    Font,
+    ToolTip,
+    Items,
+    Selection,
+    Checked,
+    Place
+};
 
 enum class Key {
-    Character, Enter, Esc, Tab, BackTab, Backspace, Delete, Up, Down, Left, Right, Home, End, PageUp, PageDown,
-    Ctrl, F1, F2, F3, F4, F5, F6, F7, F8, F9, F10, F11, F12
+    Character,
+    Enter,
+    Esc,
+    Tab,
+    BackTab,
+    Backspace,
+    Delete,
+    Up,
+    Down,
+    Left,
+    Right,
+    Home,
+    End,
+    PageUp,
+    PageDown,
+    Ctrl,
+    F1,
+    F2,
+    F3,
+    F4,
+    F5,
+    F6,
+    F7,
+    F8,
+    F9,
+    F10,
+    F11,
+    F12
 };
 
 /// One key going down; `character` holds the single-byte character of a Key::Character, a blank included.

@@ -17,11 +17,16 @@ bool presses(const KeyStroke& stroke) { return stroke.key == Key::Character && s
 int rowAfter(Key key, int row, int count) {
     if (count == 0) return row;
     switch (key) {
-        case Key::Up: return std::max(row - 1, 0);
-        case Key::Down: return std::min(row + 1, count - 1);
-        case Key::Home: return 0;
-        case Key::End: return count - 1;
-        default: return row;
+        case Key::Up:
+            return std::max(row - 1, 0);
+        case Key::Down:
+            return std::min(row + 1, count - 1);
+        case Key::Home:
+            return 0;
+        case Key::End:
+            return count - 1;
+        default:
+            return row;
     }
 }
 

@@ -59,14 +59,16 @@ public:
     void click() override;
 };
 
-/// What a line of text with a caret does with the keys of editing. Positions count from 0, between characters.
+/// What a line of text with a caret does with the keys of editing. Positions count from 0, between
+/// characters.
 class TextLine : public Control {
 public:
     using Control::Control;
     std::string content() const override { return text_; }
     const std::string& text() const { return text_; }
     bool canTakeFocus() const override { return true; }
-    /// As any change of the text: raises onChange once, here, unless the text stays the same. The caret goes to the end.
+    /// As any change of the text: raises onChange once, here, unless the text stays the same. The caret goes
+    /// to the end.
     void setText(std::string_view text);
     /// Shows a text that was read from a file; nobody has changed anything, so nothing is raised.
     void present(std::string_view text);
@@ -123,7 +125,8 @@ public:
     void setItems(std::vector<std::string> items);
     /// Selects a row, or none with -1, and raises nothing. A row that isn't there raises a fault.
     void select(int index);
-    /// The operator's click on a row: selects it, then raises onClick. A click beside the rows selects nothing new.
+    /// The operator's click on a row: selects it, then raises onClick. A click beside the rows selects
+    /// nothing new.
     void clickRow(int index);
     void doubleClickRow(int index);
     bool defaultKey(const KeyStroke& stroke) override;

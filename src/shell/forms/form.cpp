@@ -14,11 +14,16 @@ bool takesFocus(const Control& control) { return control.canTakeFocus() && contr
 /// The character code that a key carries into a control, or 0 of a key without one.
 int codeOf(const KeyStroke& stroke) {
     switch (stroke.key) {
-        case Key::Character: return stroke.character;
-        case Key::Enter: return 13;
-        case Key::Esc: return 27;
-        case Key::Backspace: return 8;
-        default: return 0;
+        case Key::Character:
+            return stroke.character;
+        case Key::Enter:
+            return 13;
+        case Key::Esc:
+            return 27;
+        case Key::Backspace:
+            return 8;
+        default:
+            return 0;
     }
 }
 
@@ -72,7 +77,8 @@ void Form::close() {
 }
 
 Control* Form::find(std::string_view name) const {
-    const auto at = std::find_if(controls_.begin(), controls_.end(), [&](Control* c) { return c->name() == name; });
+    const auto at =
+        std::find_if(controls_.begin(), controls_.end(), [&](Control* c) { return c->name() == name; });
     return at == controls_.end() ? nullptr : *at;
 }
 
@@ -92,8 +98,8 @@ void Form::focus(Control& control) {
 
 void Form::activate() {
     if (focused_ == nullptr) {
-        const auto first =
-            std::find_if(controls_.begin(), controls_.end(), [](Control* c) { return c->tabStop() && c->usable(); });
+        const auto first = std::find_if(controls_.begin(), controls_.end(),
+                                        [](Control* c) { return c->tabStop() && c->usable(); });
         if (first != controls_.end()) focus(**first);
     } else if (focusWatcher) {
         focusWatcher();

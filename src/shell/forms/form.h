@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A form: its controls by name, its focus and tab order, and the road of a key through it.
-// Leans on control.h; the forms of the program derive from it; the screen (screen.h) shows them and sends them keys.
+// Leans on control.h; the forms of the program derive from it; the screen (screen.h) shows them and sends
+// them keys.
 #pragma once
 
 #include <functional>
@@ -49,8 +50,8 @@ public:
 
     /// The control with the focus, or null.
     Control* focused() const { return focused_; }
-    /// Moves the focus, with onLostFocus of the old control and then onGotFocus of the new one. Where the new one can't
-    /// take it (hidden, disabled, no field), nothing happens.
+    /// Moves the focus, with onLostFocus of the old control and then onGotFocus of the new one. Where the new
+    /// one can't take it (hidden, disabled, no field), nothing happens.
     void focus(Control& control);
     /// Where the focus goes when the control that has it goes away, so that no key is lost.
     void setHome(Control& control) { home_ = &control; }

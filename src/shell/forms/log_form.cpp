@@ -41,9 +41,9 @@ LogForm::LogForm(forms::Screen& screen) : Form(screen, "frmLog", "TARQEN") {
     for (forms::ListBox* const list : {&Worked, &NeedBands, &QSOs, &PCalls, &PLogSort, &QSummary, &CList}) {
         list->setTabStop(false);
     }
-    for (forms::Control* const control : std::initializer_list<forms::Control*>{
-             &cUpdate, &Query, &Search1, &PCalls, &PLogSort, &QSummary, &CList, &Heading, &WorkCall, &Name1, &Alarm,
-             &IfOffSet, &DVKStatus}) {
+    for (forms::Control* const control :
+         std::initializer_list<forms::Control*>{&cUpdate, &Query, &Search1, &PCalls, &PLogSort, &QSummary,
+                                                &CList, &Heading, &WorkCall, &Name1, &IfOffSet, &DVKStatus}) {
         control->hide();
     }
 }

@@ -138,7 +138,8 @@ void Screen::schedule(std::int64_t now) {
         }
     }
     for (Clocked& clocked : clocked_) {
-        const bool runs = clocked.timer->enabled() && clocked.timer->interval() > 0 && clocked.timer->form().loaded();
+        const bool runs =
+            clocked.timer->enabled() && clocked.timer->interval() > 0 && clocked.timer->form().loaded();
         const bool begins = !clocked.running || clocked.starts != clocked.timer->starts();
         if (runs && begins) clocked.due = now + clocked.timer->interval();
         clocked.running = runs;
@@ -162,7 +163,8 @@ void Screen::runTimers(std::int64_t now) {
         if (next < 0 || next > now) return;
         const auto at = std::find_if(clocked_.begin(), clocked_.end(),
                                      [&](const Clocked& c) { return c.running && c.due == next; });
-        // The next due time counts from now: ticks that nobody could take are passed over, as a late clock does.
+        // The next due time counts from now: ticks that nobody could take are passed over, as a late clock
+        // does.
         at->due = now + at->timer->interval();
         Timer* const timer = at->timer;
         dispatch([&] {

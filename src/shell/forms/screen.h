@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-// All forms of one running program: which are shown and in which order, the timers, and the dispatch of events.
-// Leans on form.h; the platform's front (headless or Qt) feeds it keys, clicks and time; the forms register with it.
-// Every event enters here, so that a fault which no routine traps is told once and ends the program in order.
+// All forms of one running program: which are shown and in which order, the timers, and the dispatch of
+// events. Leans on form.h; the platform's front (headless or Qt) feeds it keys, clicks and time; the forms
+// register with it. Every event enters here, so that a fault which no routine traps is told once and ends the
+// program in order.
 #pragma once
 
 #include <cstdint>
@@ -32,8 +33,9 @@ public:
     const std::vector<Form*>& order() const { return order_; }
     void bringToFront(Form& form);
 
-    /// Runs one event of the operator or of a timer. Faults are told through `onFault` and end the program. Inside a
-    /// pump the end goes on to the routine that pumps (`endIfEnded`). Returns false once the program has ended.
+    /// Runs one event of the operator or of a timer. Faults are told through `onFault` and end the program.
+    /// Inside a pump the end goes on to the routine that pumps (`endIfEnded`). Returns false once the program
+    /// has ended.
     bool dispatch(const std::function<void()>& event);
     bool ended() const { return ended_; }
     void endIfEnded() const {
@@ -42,8 +44,8 @@ public:
 
     /// A key to the form in front; false where there is none.
     bool press(const KeyStroke& stroke);
-    /// A left click on a control: its form comes to the front, the focus moves there where it can, then the click.
-    /// A list gets the click on a row (counted from 0). False where the control is disabled or hidden.
+    /// A left click on a control: its form comes to the front, the focus moves there where it can, then the
+    /// click. A list gets the click on a row (counted from 0). False where the control is disabled or hidden.
     bool click(Control& control, int row = -1);
     bool doubleClick(Control& control, int row = -1);
     bool rightClick(Control& control);
@@ -57,8 +59,8 @@ public:
     void openPopUp(MenuItem& menu);
     void closePopUp();
 
-    /// Fires the timers that are due, the longest due first, each once. `now` is the platform's count of milliseconds.
-    /// Nothing fires while a dialog is open.
+    /// Fires the timers that are due, the longest due first, each once. `now` is the platform's count of
+    /// milliseconds. Nothing fires while a dialog is open.
     void runTimers(std::int64_t now);
     /// The count at which the next timer is due, or -1 of none. New timers count from `now`.
     std::int64_t nextDue(std::int64_t now);

@@ -25,7 +25,8 @@ struct Prompt {
     std::string defaultText;
 };
 
-/// What interrupts the operator, and what he hears and sees of a routine at work. No timer runs while a box is open.
+/// What interrupts the operator, and what he hears and sees of a routine at work. No timer runs while a box
+/// is open.
 class Dialogs {
 public:
     virtual ~Dialogs() = default;

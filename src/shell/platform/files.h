@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Files by name, relative to the program's folder, whatever the case of the name and the kind of its slashes.
-// Leans on nothing; shell/linux does it on a disk, shell/headless adds faults; all readers and writers call it.
+// Leans on nothing; shell/linux does it on a disk, shell/headless adds faults; all readers and writers call
+// it.
 #pragma once
 
 #include <cstdint>
@@ -25,8 +26,8 @@ public:
     virtual void close() = 0;
 };
 
-/// `\` and `/` part folders alike; each component is looked up without regard to case, and a name that isn't there yet
-/// is made as written. A drive letter is a folder of that name. FileError tells path and reason.
+/// `\` and `/` part folders alike; each component is looked up without regard to case, and a name that isn't
+/// there yet is made as written. A drive letter is a folder of that name. FileError tells path and reason.
 class Files {
 public:
     virtual ~Files() = default;

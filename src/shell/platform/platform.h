@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // All that the program asks of a machine, one small interface a service.
-// Leans on nothing; shell/headless and shell/qt with shell/linux provide it; every routine reaches it through the Station.
+// Leans on nothing; shell/headless and shell/qt with shell/linux provide it; every routine reaches it through
+// the Station.
 #pragma once
 
 #include "shell/platform/clock.h"

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "setup/control_file.h"
+
+#include "core/say.h"
+#include "setup/control_text.h"
+
+namespace {
+
+constexpr const char* kControlFile = "TARQEN32Control.Ini";
+
+/// The length of the file, which comes into being where it is missing.
+std::int64_t lengthOfFile(Station& s) {
+    const auto file = s.platform.files.append(kControlFile);
+    const std::int64_t length = file->length();
+    file->close();
+    return length;
+}
+
+}  // namespace
+
+void SetControlDefaults(Station& s) { control::setDefaults(s.ControlValues); }
+
+void WriteControlFile(Station& s) {
+    try {
+        if (lengthOfFile(s) == 0) SetControlDefaults(s);
+        s.platform.files.replace(kControlFile, control::compose(s.ControlValues));
+    } catch (const FileError& error) {
+        tellFileFault(
+            s, "Error. The settings are not saved. The control file can't be written:", error,
+            "Make room on the disk or mend the folder. The program goes on with the settings it has.");
+    }
+}
+
+void ReadControlFile(Station& s) {
+    try {
+        if (lengthOfFile(s) == 0) WriteControlFile(s);
+        control::parse(s.platform.files.read(kControlFile), s.ControlValues, {});
+    } catch (const FileError& error) {
+        SetControlDefaults(s);
+        tellFileFault(s, "Error. The settings can't be read from the control file:", error,
+                      "The program goes on with the settings of a first start.");
+    }
+}

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "setup/shut_down.h"
+
+#include "core/accept_prompt.h"
+#include "core/log_file.h"
+#include "core/say.h"
+#include "setup/control_file.h"
+
+namespace {
+
+void storeMenuMarks(Station& s) {
+    const LogMenu& menu = s.forms.frmLog.menu;
+    // The next session begins in real time.
+    if (menu.mPost.checked() && autoAccept(s)) s.ControlValues(setting::AcceptMode) = kEnterKey;
+    s.ControlValues(setting::PrintLine1) = menu.m1Blank.checked() ? "print1line" : "0";
+    s.ControlValues(setting::PrintLine2) = menu.m2Blank.checked() ? "print2lines" : "0";
+}
+
+bool logHoldsQsos(Station& s) {
+    if (s.session.LogLineCount < kFirstQsoLine) return false;
+    Files& files = s.platform.files;
+    try {
+        return !files.read(s.session.LogFileName).empty();
+    } catch (const FileError&) {
+        // A log with QSOs that can't be read now is never taken for an empty one.
+        return true;
+    }
+}
+
+void removeQuietly(Files& files, const std::string& name) {
+    try {
+        if (files.exists(name)) files.remove(name);
+    } catch (const FileError&) {
+        // A file without a QSO that can't be removed does no harm.
+    }
+}
+
+void dropLogWithoutQsos(Station& s) {
+    const std::string& name = s.session.LogFileName;
+    warn(s,
+         "You started a log file, then exited the\nlogger before entering any QSOs.\n\n     [ " + name +
+             " ] file will be deleted...",
+         " Log has no QSOs...");
+    removeQuietly(s.platform.files, name);
+    if (backupOn(s)) removeQuietly(s.platform.files, backupName(s));
+}
+
+}  // namespace
+
+void cmdExit_Click(Station& s) {
+    storeMenuMarks(s);
+    WriteControlFile(s);
+    if (!logHoldsQsos(s)) dropLogWithoutQsos(s);
+    endProgram();
+}
+
+void frmLog_QueryClose(Station& s, bool& refuse) {
+    refuse = true;
+    s.platform.windows.saveSize(s.forms.frmLog.name());
+    const Answer answer =
+        s.platform.dialogs.message({std::string(" Click <OK> to quit TARQEN32.") + kCrLf + kCrLf +
+                                        "Otherwise - <Space> or <Enter> as default.",
+                                    " Quit software...", Icon::None, Buttons::OkCancel, Answer::Cancel});
+    if (answer == Answer::Ok) cmdExit_Click(s);
+}
