@@ -14,7 +14,7 @@ LogForm::LogForm(forms::Screen& screen) : Form(screen, "frmLog", "TARQEN") {
     QSOs.named("Log");
     PCalls.named("Calls found");
     PLogSort.named("Search results");
-    QSummary.named("Summary");
+    QSummary.named("Summary list");
     CList.named("Check list");
     Query.named("What to do next");
     NewGrid.named("New grid");

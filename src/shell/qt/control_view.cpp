@@ -21,13 +21,22 @@ ControlView::ControlView(forms::Control& control, QWidget& widget, Entrance& ent
     widget_.setSizePolicy(policy);
     // The forms move the focus; a click of the mouse must not do it before they have been asked.
     widget_.setFocusPolicy(control_.canTakeFocus() ? Qt::TabFocus : Qt::NoFocus);
-    widget_.setAccessibleName(codec::toQt(!control_.accessibleName().empty() ? control_.accessibleName()
-                                          : !control_.content().empty()      ? control_.content()
-                                                                             : control_.name()));
+    nameForReaders();
     control_.watcher = [this](forms::Property property) { mirrorGuarded(property); };
 }
 
 ControlView::~ControlView() { control_.watcher = nullptr; }
+
+void ControlView::nameForReaders() {
+    const bool field = dynamic_cast<forms::Captioned*>(&control_) == nullptr;
+    const std::string& named = control_.accessibleName();
+    const std::string caption = field ? std::string() : control_.content();
+    widget_.setAccessibleName(codec::toQt(!named.empty()     ? named
+                                          : !caption.empty() ? caption
+                                                             : control_.name()));
+    // What a named label or button shows is told behind its name.
+    if (!named.empty() && !field) widget_.setAccessibleDescription(codec::toQt(caption));
+}
 
 void ControlView::mirrorAll() {
     using enum forms::Property;

@@ -44,6 +44,7 @@ protected:
 
 private:
     void mirrorGuarded(forms::Property property);
+    void nameForReaders();
     forms::Control& control_;
     QWidget& widget_;
     Entrance& entrance_;

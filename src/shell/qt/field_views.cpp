@@ -6,7 +6,7 @@
 #include "shell/qt/codec.h"
 
 TextBoxView::TextBoxView(forms::TextBox& box, QLineEdit& edit, Entrance& entrance)
-    : ControlView(box, edit, entrance), line_(box, edit, entrance) {}
+    : ControlView(box, edit, entrance), line_(box, edit, entrance, &QLineEdit::textChanged) {}
 
 bool TextBoxView::pressed(const QMouseEvent&, QWidget&) {
     click();
@@ -31,7 +31,7 @@ ComboBoxView::ComboBoxView(forms::ComboBox& box, QComboBox& combo, Entrance& ent
     combo_.setInsertPolicy(QComboBox::NoInsert);
     combo_.setCompleter(nullptr);
     combo_.lineEdit()->setAccessibleName(combo_.accessibleName());
-    line_ = std::make_unique<LineMirror>(box, *combo_.lineEdit(), entrance);
+    line_ = std::make_unique<LineMirror>(box, *combo_.lineEdit(), entrance, &QLineEdit::textEdited);
     connect(&combo_, &QComboBox::activated, this, &ComboBoxView::picked);
 }
 

@@ -5,9 +5,9 @@
 
 #include "shell/qt/codec.h"
 
-LineMirror::LineMirror(forms::TextLine& line, QLineEdit& edit, Entrance& entrance)
+LineMirror::LineMirror(forms::TextLine& line, QLineEdit& edit, Entrance& entrance, Signal edited)
     : line_(line), edit_(edit), entrance_(entrance) {
-    connect(&edit_, &QLineEdit::textChanged, this, &LineMirror::takeText);
+    connect(&edit_, edited, this, &LineMirror::takeText);
     connect(&edit_, &QLineEdit::selectionChanged, this, &LineMirror::takeCaret);
     connect(&edit_, &QLineEdit::cursorPositionChanged, this, &LineMirror::takeCaret);
 }

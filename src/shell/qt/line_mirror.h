@@ -11,7 +11,10 @@
 class LineMirror : public QObject {
     Q_OBJECT
 public:
-    LineMirror(forms::TextLine& line, QLineEdit& edit, Entrance& entrance);
+    using Signal = void (QLineEdit::*)(const QString&);
+    /// `edited` is what tells of an edit that Qt made: a plain field's text changes for no other reason, a
+    /// combo box changes it for a pick too, which is told otherwise.
+    LineMirror(forms::TextLine& line, QLineEdit& edit, Entrance& entrance, Signal edited);
     void showText();
     void showCaret();
 
