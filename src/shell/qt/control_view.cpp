@@ -54,6 +54,9 @@ void ControlView::mirrorGuarded(forms::Property property) {
 
 void ControlView::mirror(forms::Property property) {
     switch (property) {
+        case forms::Property::Text:
+            nameForReaders();
+            break;
         case forms::Property::Visible:
             widget_.setVisible(control_.visible());
             break;

@@ -60,6 +60,7 @@ void ButtonView::mirror(forms::Property property) {
             showMark();
             break;
         default:
-            ControlView::mirror(property);
+            break;
     }
+    ControlView::mirror(property);
 }
