@@ -22,8 +22,8 @@ using Search = std::function<std::optional<std::string>(const std::string&)>;
 /// Words parted by blanks; what stands in double quotes is one word, blanks and all.
 std::vector<std::string> words(std::string_view line);
 
-/// A program's path may hold blanks without standing in quotes: the shortest start of the line that is a program is it.
-/// Nothing where none is.
+/// A program's path may hold blanks without standing in quotes: the shortest start of the line that is a
+/// program is it. Nothing where none is.
 std::optional<Parts> split(std::string_view line, const Search& search);
 
 }  // namespace command_line

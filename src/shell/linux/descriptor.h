@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// An open file of the operating system, and what is done with one, interrupted calls and short writes looked after.
+// An open file of the operating system, and what is done with one, interrupted calls and short writes looked
+// after.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +10,8 @@
 /// Closes what it holds when it goes. Faults name the path with which it was opened.
 class Descriptor {
 public:
-    /// Opens a plain file; anything else under that name (a folder, a pipe, a device) is refused, and never waited for.
+    /// Opens a plain file; anything else under that name (a folder, a pipe, a device) is refused, and never
+    /// waited for.
     static Descriptor openFile(const std::string& path, int flags);
     /// Makes a plain file that must not be there yet; nothing held where it is there.
     static Descriptor makeFile(const std::string& path, int flags);

@@ -18,20 +18,28 @@ const char* missing(const std::string& path) {
 
 const char* textOf(const std::string& path, int number) {
     switch (number) {
-        case ENOENT: return missing(path);
-        case ENOTDIR: return "Path not found";
+        case ENOENT:
+            return missing(path);
+        case ENOTDIR:
+            return "Path not found";
         case ENOSPC:
         case EDQUOT:
-        case EFBIG: return "Disk full";
-        case EIO: return "Device I/O error";
+        case EFBIG:
+            return "Disk full";
+        case EIO:
+            return "Device I/O error";
         case EMFILE:
-        case ENFILE: return "Too many files";
+        case ENFILE:
+            return "Too many files";
         case ENAMETOOLONG:
         case EINVAL:
-        case EILSEQ: return "Bad file name or number";
+        case EILSEQ:
+            return "Bad file name or number";
         case ENXIO:
-        case ENODEV: return "Device unavailable";
-        default: return "Path/File access error";
+        case ENODEV:
+            return "Device unavailable";
+        default:
+            return "Path/File access error";
     }
 }
 

@@ -3,8 +3,9 @@
 
 #include <string>
 
-/// The mark by which a program that runs in a folder is known to a second one started there. It goes with the process,
-/// however that ends. Where the folder takes no mark, nobody can be known and the program counts as the only one.
+/// The mark by which a program that runs in a folder is known to a second one started there. It goes with the
+/// process, however that ends. Where the folder takes no mark, nobody can be known and the program counts as
+/// the only one.
 class InstanceLock {
 public:
     explicit InstanceLock(const std::string& folder);

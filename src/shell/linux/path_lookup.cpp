@@ -43,7 +43,8 @@ std::string below(const std::string& folder, const std::string& component) {
     return folder.empty() || folder.back() == '/' ? folder + component : folder + "/" + component;
 }
 
-/// Of several entries that differ in case alone the first in order of bytes, so that the choice is always the same.
+/// Of several entries that differ in case alone the first in order of bytes, so that the choice is always the
+/// same.
 std::optional<std::string> entryLike(const std::string& folder, const std::string& component) {
     std::optional<std::string> found;
     std::error_code error;

@@ -50,10 +50,12 @@ constexpr int kWriteFlags = O_RDWR | O_APPEND;
 std::unique_ptr<OutFile> openForWriting(const std::string& path, int flags) {
     Descriptor made = Descriptor::makeFile(path, kWriteFlags);
     if (made.held()) return std::make_unique<PosixOutFile>(std::move(made), path, true);
-    return std::make_unique<PosixOutFile>(Descriptor::openFile(path, kWriteFlags | O_CREAT | flags), path, false);
+    return std::make_unique<PosixOutFile>(Descriptor::openFile(path, kWriteFlags | O_CREAT | flags), path,
+                                          false);
 }
 
-/// Where the file itself lies that a name leads to; renaming over a link would put the file in the link's place.
+/// Where the file itself lies that a name leads to; renaming over a link would put the file in the link's
+/// place.
 std::string withoutLinks(const std::string& path) {
     std::error_code error;
     const fs::path end = fs::canonical(path, error);
@@ -139,7 +141,8 @@ std::vector<std::string> PosixFiles::list(const std::string& pattern) {
         const auto name = path_lookup::nameOfEntry(at->path().filename().string());
         const bool hidden = name && text::startsWith(*name, ".") && !text::startsWith(pattern, ".");
         std::error_code gone;
-        if (name && !hidden && text::matches(*name, pattern) && at->is_regular_file(gone)) names.push_back(*name);
+        if (name && !hidden && text::matches(*name, pattern) && at->is_regular_file(gone))
+            names.push_back(*name);
     }
     if (error) throw fileFault(folder_, error.value());
     std::sort(names.begin(), names.end(), [](const std::string& one, const std::string& other) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The program's files on a disk.
-// Leans on path_lookup.h for where a name lies and on descriptor.h for the calls of the system; both fronts build one
-// over the program's folder.
+// Leans on path_lookup.h for where a name lies and on descriptor.h for the calls of the system; both fronts
+// build one over the program's folder.
 #pragma once
 
 #include "shell/platform/files.h"

@@ -47,7 +47,8 @@ void freeTheSignals() {
     ::signal(SIGINT, SIG_DFL);
 }
 
-/// The new program's side. Writes to `report` where it can't become the program; a success closes it by itself.
+/// The new program's side. Writes to `report` where it can't become the program; a success closes it by
+/// itself.
 [[noreturn]] void becomeProgram(const Launch& launch, const char* folder, int report) {
     ::setsid();
     const pid_t grandchild = ::fork();
