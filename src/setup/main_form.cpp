@@ -192,6 +192,7 @@ void frmLog_Load(Station& s) {
     selectBandRow(s);
     showForm(s);
     showSettings(s);
+    startClock(s);
     form.Label4.setBackColour(forms::kRed);
     ClearEntry(s);
     loadActivityHours(s, activityFile(session.ContestNumber));

@@ -83,6 +83,13 @@ std::string GetUtcClockText(Station& s) {
     return std::string(text::left(timeText(s.platform.clock.utc()), 5));
 }
 
+void startClock(Station& s) {
+    const DateTime local = s.platform.clock.local();
+    const UtcReading utc = readUtc(s, local);
+    s.session.UTCTime = twoDigits(utc.hour) + text::digits(utc.minute, 2);
+    s.session.UTCDate = utcDateText(local, utc.day);
+}
+
 void Timer1_Timer(Station& s) {
     Session& session = s.session;
     LogForm& form = s.forms.frmLog;

@@ -30,6 +30,8 @@ std::string timeText(const DateTime& moment);
 /// The system's own UTC as "HH:MM".
 std::string GetUtcClockText(Station& s);
 
+/// Sets `UTCTime` and `UTCDate` before the first tick, so that no QSO is ever without its time.
+void startClock(Station& s);
 /// Once a second on the main form: refresh on request, clock, date, alarm, activity hours.
 void Timer1_Timer(Station& s);
 /// A click on the alarm asks for its time.
