@@ -2,9 +2,10 @@
 #include "base/number.h"
 
 #include <array>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
+#include <system_error>
 
 #include "base/run_time_error.h"
 #include "base/text.h"
@@ -54,25 +55,46 @@ std::string decimalPart(std::string_view figures) {
     return taken;
 }
 
+// The C library's own functions would write and read the decimal mark of the operator's language.
+std::string written(double value, std::chars_format format, int precision) {
+    std::array<char, 400> buffer{};
+    const auto end =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, format, precision).ptr;
+    return std::string(buffer.data(), end);
+}
+
+std::string withoutTail(std::string number) {
+    if (!text::contains(number, ".")) return number;
+    while (number.back() == '0') number.pop_back();
+    if (number.back() == '.') number.pop_back();
+    return number;
+}
+
 std::string significant(double value, int figures) {
     if (value == 0) return "0";
-    std::array<char, 64> buffer{};
-    std::snprintf(buffer.data(), buffer.size(), "%.*e", figures - 1, value);
-    const std::string scientific(buffer.data());
+    const std::string scientific = written(value, std::chars_format::scientific, figures - 1);
     const std::size_t mark = scientific.find('e');
     const int exponent = std::atoi(scientific.c_str() + mark + 1);
-    const auto withoutTail = [](std::string number) {
-        if (number.find('.') == std::string::npos) return number;
-        while (number.back() == '0') number.pop_back();
-        if (number.back() == '.') number.pop_back();
-        return number;
-    };
     if (exponent >= figures || exponent < -4) {
         const std::string mantissa = withoutTail(scientific.substr(0, mark));
         return mantissa + (exponent < 0 ? "E-" : "E+") + text::digits(std::abs(exponent), 2);
     }
-    std::snprintf(buffer.data(), buffer.size(), "%.*f", figures - 1 - exponent, value);
-    return withoutTail(buffer.data());
+    return withoutTail(written(value, std::chars_format::fixed, figures - 1 - exponent));
+}
+
+// Of a number that no double holds: whether it is too close to 0, not too large.
+bool isTiny(std::string_view decimal) {
+    const std::string_view whole = decimal.substr(0, decimal.find('.'));
+    return text::contains(decimal, "e-") || whole.find_first_not_of("+-0") == std::string_view::npos;
+}
+
+double decimalValue(std::string_view decimal) {
+    if (text::startsWith(decimal, "+")) decimal.remove_prefix(1);
+    double value = 0;
+    const auto result = std::from_chars(decimal.data(), decimal.data() + decimal.size(), value);
+    if (result.ec == std::errc()) return value;
+    if (isTiny(decimal)) return 0;
+    throw overflowError();
 }
 
 }  // namespace
@@ -87,9 +109,7 @@ double valueOf(std::string_view value) {
     }
     const std::string decimal = decimalPart(figures);
     if (decimal.empty()) return 0;
-    const double result = std::strtod(decimal.c_str(), nullptr);
-    if (!std::isfinite(result)) throw overflowError();
-    return result;
+    return decimalValue(decimal);
 }
 
 std::int32_t rounded(double value) {
@@ -105,9 +125,7 @@ std::string toText(float value) { return significant(static_cast<double>(value),
 std::string toText(std::int64_t value) { return std::to_string(value); }
 
 std::string grouped(double value) {
-    std::array<char, 64> buffer{};
-    std::snprintf(buffer.data(), buffer.size(), "%.0f", std::fabs(value));
-    std::string figures(buffer.data());
+    std::string figures = written(std::fabs(value), std::chars_format::fixed, 0);
     if (figures == "0") return {};
     for (int at = static_cast<int>(figures.size()) - 3; at > 0; at -= 3) {
         figures.insert(static_cast<std::size_t>(at), ",");

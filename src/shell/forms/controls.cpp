@@ -138,6 +138,11 @@ void ComboBox::clear() {
     changed(Property::Items);
 }
 
+int ComboBox::listIndex() const {
+    const bool stands = listIndex_ >= 0 && items_[static_cast<std::size_t>(listIndex_)] == text();
+    return stands ? listIndex_ : -1;
+}
+
 void ComboBox::choose(int index) {
     if (index < 0 || index >= static_cast<int>(items_.size())) throw subscriptError();
     listIndex_ = index;

@@ -98,7 +98,8 @@ class ComboBox : public TextLine {
 public:
     using TextLine::TextLine;
     const std::vector<std::string>& items() const { return items_; }
-    int listIndex() const { return listIndex_; }
+    /// The item picked, or -1 where none is, or another text stands in the field by now.
+    int listIndex() const;
     void add(std::string_view item);
     void clear();
     /// The operator's pick: the text becomes the item's, then onClick is raised, and no onChange.

@@ -3,9 +3,9 @@
 
 #include <charconv>
 #include <chrono>
-#include <cstdlib>
 #include <system_error>
 
+#include "base/number.h"
 #include "base/text.h"
 #include "shell/headless/run_ends.h"
 
@@ -70,9 +70,11 @@ std::int64_t LineReader::whole(std::int64_t least, std::int64_t most) {
 
 double LineReader::decimal(double most) {
     const std::string taken = word();
-    const bool plain = taken.find_first_not_of("0123456789.") == std::string::npos;
+    constexpr std::size_t kLongest = 20;
+    const bool plain =
+        taken.size() <= kLongest && taken.find_first_not_of("0123456789.") == std::string::npos;
     const bool numeric = plain && taken != "." && taken.find('.') == taken.rfind('.');
-    const double value = numeric ? std::strtod(taken.c_str(), nullptr) : -1;
+    const double value = numeric ? number::valueOf(taken) : -1;
     if (!(value >= 0 && value <= most)) throw badScript("\"" + taken + "\" is no number that can stand here");
     return value;
 }
