@@ -28,14 +28,6 @@ void storeUpper(Station& s, forms::ComboBox& box, Place element) {
     box.onLostFocus = store;
 }
 
-/// A field left blank falls back on its first category.
-void fallBackOn(Station& s, forms::ComboBox& box, Place element, const char* standard) {
-    box.onLostFocus = [&s, &box, element, standard] {
-        if (text::trim(box.text()).empty()) box.setText(standard);
-        s.PersonalData(element) = text::upper(box.text());
-    };
-}
-
 void refuseQuote(Station& s, forms::KeyPress& key) {
     if (key.code != kQuote) return;
     beep(s);
@@ -110,8 +102,6 @@ void wireClub(Station& s) {
         s.PersonalData(personal::Club) = text::lower(box.text()) == "none" ? "" : box.text();
     };
     box.onLostFocus = [&s, &box] {
-        // A picked "none" stands for no club at all, and leaving the field doesn't make it a club's name.
-        if (text::lower(box.text()) == "none" && s.PersonalData(personal::Club).empty()) return;
         box.setText(clubName(box.text()));
         s.PersonalData(personal::Club) = box.text();
     };
@@ -141,11 +131,18 @@ void wireCategories(Station& s) {
     };
     form.Combo10.onChange = operatorCategory;
     form.Combo10.onClick = operatorCategory;
-    fallBackOn(s, form.Combo10, personal::OperatorCategory, "SINGLE-OP");
+    form.Combo10.onLostFocus = [&s, &form] {
+        if (text::trim(form.Combo10.text()).empty()) form.Combo10.setText("SINGLE-OP");
+        s.PersonalData(personal::OperatorCategory) = text::upper(form.Combo10.text());
+    };
     storeTyped(s, form.Combo11, personal::Operators);
     storeTyped(s, form.Combo12, personal::MoreOperators);
     storeUpper(s, form.Power, personal::Power);
-    fallBackOn(s, form.Power, personal::Power, "LOW");
+    form.Power.onLostFocus = [&s, &form] {
+        // One blank counts as an empty field here; more of them stand as typed.
+        if (form.Power.text().empty() || form.Power.text() == " ") form.Power.setText("LOW");
+        s.PersonalData(personal::Power) = text::upper(form.Power.text());
+    };
     storeTyped(s, form.Combo2, personal::StationCategory);
     form.Combo2.onLostFocus = [&s, &form] {
         if (text::trim(form.Combo2.text()).empty()) form.Combo2.setText("FIXED");
