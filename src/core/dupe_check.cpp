@@ -13,21 +13,14 @@ namespace {
 
 constexpr int kMostMatches = 30;
 
-/// `padded` is the call with a blank behind it up to the width of its columns: no line is copied to be
-/// compared.
-bool isCallOf(std::string_view line, std::string_view padded) {
-    return text::columns(line, 27, 38) == padded;
-}
-
 }  // namespace
 
 Dupe scanLog(Session& session, std::string_view call, std::string_view band) {
     Dupe dupe;
     session.MatchCount = 0;
-    const std::string padded = text::pad(call, 12);
     for (int number = kFirstQsoLine; number <= session.LogLineCount; ++number) {
         const std::string& line = session.LogLines(number);
-        if (!isCallOf(line, padded) && qso::call(line) != call) continue;
+        if (qso::call(line) != call) continue;
         if (session.MatchCount < kMostMatches) ++session.MatchCount;
         const std::string_view lineBand = qso::band(line);
         session.MatchBand(session.MatchCount) = lineBand;
