@@ -221,6 +221,19 @@ TEST_F(Mirror, PickFromAComboBoxIsAClickAndNoChange) {
     EXPECT_EQ(combo.currentText(), "Auto Accept");
 }
 
+TEST_F(Mirror, ComboBoxThatIsLeftHasNotBeenPickedFrom) {
+    desk.show(log);
+    log.Combo3.add("<Enter> key");
+    log.Combo3.add("Auto Accept");
+    log.Combo3.setText("Auto Accept");
+    log.focus(log.Combo3);
+    int clicks = 0;
+    log.Combo3.onClick = [&] { ++clicks; };
+    log.focus(log.CallS);
+    EXPECT_TRUE(desk.widget(log.CallS).hasFocus());
+    EXPECT_EQ(clicks, 0);
+}
+
 TEST_F(Mirror, MenuFollowsItsItems) {
     desk.show(log);
     const MenuView& menu = *desk.front.find("frmLog")->menu();

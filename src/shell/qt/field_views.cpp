@@ -30,6 +30,8 @@ ComboBoxView::ComboBoxView(forms::ComboBox& box, QComboBox& combo, Entrance& ent
     combo_.setEditable(true);
     combo_.setInsertPolicy(QComboBox::NoInsert);
     combo_.setCompleter(nullptr);
+    // Qt takes a text that equals an item for a pick as soon as the focus leaves; nobody has picked anything.
+    QObject::disconnect(combo_.lineEdit(), &QLineEdit::editingFinished, &combo_, nullptr);
     combo_.lineEdit()->setAccessibleName(combo_.accessibleName());
     line_ = std::make_unique<LineMirror>(box, *combo_.lineEdit(), entrance, &QLineEdit::textEdited);
     connect(&combo_, &QComboBox::activated, this, &ComboBoxView::picked);

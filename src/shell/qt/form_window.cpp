@@ -142,6 +142,8 @@ void FormWindow::followFocus() {
         window_->raise();
         window_->activateWindow();
     }
+    // The keyboard moves the focus of this program, so a button that has it shows so.
+    window_->setAttribute(Qt::WA_KeyboardFocusChange);
     const forms::Control* const wanted = form_.focused();
     for (const auto& view : views_) {
         if (&view->control() != wanted) continue;

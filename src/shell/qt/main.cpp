@@ -24,8 +24,10 @@ void nameApplication() {
 
 int runProgram() {
     namespace fs = std::filesystem;
-    const fs::path samples = fs::path(QCoreApplication::applicationDirPath().toStdString()) / ".." / "share" / "tarqen";
-    const fs::path folder = stationFolder(fs::current_path(), fs::path(QDir::homePath().toStdString()), samples);
+    const fs::path samples =
+        fs::path(QCoreApplication::applicationDirPath().toStdString()) / ".." / "share" / "tarqen";
+    const fs::path folder =
+        stationFolder(fs::current_path(), fs::path(QDir::homePath().toStdString()), samples);
     fs::current_path(folder);
     QtPlatform machine(folder.string());
     Program program(machine.platform());
