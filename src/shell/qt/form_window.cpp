@@ -3,6 +3,7 @@
 
 #include <QAbstractScrollArea>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QFile>
 #include <QMainWindow>
 #include <QScopedValueRollback>
@@ -42,7 +43,11 @@ bool isQtsOwn(const QWidget& widget) {
 std::unique_ptr<QWidget> loadLayout(const forms::Form& form) {
     QFile file(":/ui/" + codec::toQt(text::lower(form.name())) + ".ui");
     if (!file.open(QIODevice::ReadOnly)) throw LayoutError("The form " + form.name() + " has no layout.");
+    // Making a loader would load every designer's plug-in of the desktop, none of which these layouts use.
+    const QStringList plugIns = QCoreApplication::libraryPaths();
+    QCoreApplication::setLibraryPaths({});
     QUiLoader loader;
+    QCoreApplication::setLibraryPaths(plugIns);
     std::unique_ptr<QWidget> window(loader.load(&file));
     if (!window) {
         throw LayoutError("The layout of " + form.name() +
