@@ -91,6 +91,11 @@ void cmdCont_Click(Station& s) {
 
 void frmContest_QueryClose(Station& s, bool& refuse) {
     refuse = true;
+    SetupForm& setup = s.forms.frmSetup;
+    s.session.LogFileName.clear();
+    setup.fName.hide();
+    setup.Label2.hide();
+    setup.Label4.setCaption("To start a new contest");
     s.forms.frmContest.unload();
     backToSetup(s, false);
 }

@@ -116,11 +116,12 @@ std::string triedPath(Station& s, std::string path) {
     if (!text::endsWith(path, "\\") && !text::endsWith(path, "/")) path += "\\";
     try {
         touch(s.platform.files, path + s.session.LogFileName);
-        return text::upper(path);
+        if (!isLogItself(s, path + s.session.LogFileName)) return text::upper(path);
     } catch (const FileError&) {
-        tell(s, "Error. Check BU drive\\path: " + path, "Invalid drive and/or path...");
-        return "OFF";
+        // Told below, as a path that leads to the log itself is.
     }
+    tell(s, "Error. Check BU drive\\path: " + path, "Invalid drive and/or path...");
+    return "OFF";
 }
 
 }  // namespace

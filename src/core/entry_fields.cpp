@@ -37,8 +37,9 @@ void dropEmptyLog(Station& s) {
     s.session.LogLineCount = 0;
     Files& files = s.platform.files;
     try {
+        if (!holdsNoQso(files, s.session.LogFileName)) return;
         files.remove(s.session.LogFileName);
-        if (backupOn(s)) files.remove(backupName(s));
+        if (backupOn(s) && holdsNoQso(files, backupName(s))) files.remove(backupName(s));
     } catch (const FileError&) {
         // The next accept appends to whatever is there, on a line of its own.
     }
@@ -148,7 +149,8 @@ void enterGridField(Station& s) {
     }
     s.session.GridEntered = true;
     QueryState(s);
-    if (autoAccept(s)) cUpDate_Click(s);
+    // A mode that is none of the two leads to the accept as well, which says so.
+    if (s.ControlValues(setting::AcceptMode) != kEnterKey) cUpDate_Click(s);
 }
 
 }  // namespace

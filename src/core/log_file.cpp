@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "core/log_file.h"
 
+#include <filesystem>
+
 #include "base/number.h"
 #include "base/text.h"
 #include "contest/contest_table.h"
@@ -20,7 +22,29 @@ std::string besideLog(const Session& session, int cut, const std::string& ending
     return std::string(text::left(session.LogFileName, kept)) + ending;
 }
 
-bool backupOn(const Station& s) { return s.ControlValues(setting::BackupPath) != "OFF"; }
+bool backupOn(const Station& s) {
+    const std::string path = text::upper(s.ControlValues(setting::BackupPath));
+    // The program's own folder of old stands for no backup as well.
+    return path != "OFF" && path != "C:\\TARQEN32";
+}
+
+bool holdsNoQso(Files& files, const std::string& name) {
+    constexpr std::size_t kShorterThanAnyLog = 66;
+    try {
+        const std::string content = files.read(name);
+        const std::vector<std::string> lines = text::lines(content);
+        if (lines.size() < 2) return content.size() < kShorterThanAnyLog;
+        return lines.size() == 2 && text::startsWith(lines[1], "v2.0");
+    } catch (const FileError&) {
+        return false;
+    }
+}
+
+bool isLogItself(Station& s, const std::string& name) {
+    Files& files = s.platform.files;
+    std::error_code ignored;
+    return std::filesystem::equivalent(files.path(name), files.path(s.session.LogFileName), ignored);
+}
 
 std::string backupName(const Station& s) {
     const std::string& path = s.ControlValues(setting::BackupPath);

@@ -22,6 +22,11 @@ std::string besideLog(const Session& session, int cut, const std::string& ending
 bool backupOn(const Station& s);
 /// The backup path with its slash, and the log's name.
 std::string backupName(const Station& s);
+/// Whether a file holds nothing that was logged: empty, cut short in its headers, or the two headers alone.
+/// Only such a file may be taken away; one that can't be read may not.
+bool holdsNoQso(Files& files, const std::string& name);
+/// Whether a name leads to the log itself, by whatever path: then it is no backup.
+bool isLogItself(Station& s, const std::string& name);
 /// The words for a backup that can't be reached.
 void tellBackupFault(Station& s);
 

@@ -21,8 +21,7 @@ inline void beep(Station& s) { s.platform.dialogs.beep(); }
 /// A file that the system refused: what, which and why, and what to do.
 inline void tellFileFault(Station& s, const std::string& what, const FileError& error,
                           const std::string& remedy) {
-    warn(s, what + kCrLf + error.path + kCrLf + error.reason + kCrLf + kCrLf + remedy,
-         " File not written...");
+    warn(s, what + kCrLf + error.path + kCrLf + error.reason + kCrLf + kCrLf + remedy, " File error...");
 }
 
 [[noreturn]] inline void endProgram() { throw forms::ProgramEnd{}; }

@@ -69,6 +69,8 @@ struct Session {
     std::string AlarmTime;
     std::string RefreshRequest;
     std::string UtcCheckDone;
+    /// The settings in memory are those of a first start, because the file could not be read.
+    bool controlFileUnread = false;
 
     Table<std::string, 1, 40> ActivityHours;
     Int16 ActivityCount;

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "base/text.h"
+#include "core/say.h"
 #include "core/tally.h"
 
 namespace {
@@ -28,12 +29,27 @@ void loadSyllables(Station& s) {
 
 void InitialFiles(Station& s) {
     LoadBandNames(s.session);
-    for (const char* const file : kFiles) touch(s.platform.files, file);
-    touch(s.platform.files, kEquipmentFile);
+    const auto attempt = [&s](const auto& step) {
+        try {
+            step();
+        } catch (const FileError& error) {
+            tellFileFault(s, "Error. A lookup file can't be opened:", error,
+                          "The program goes on without it.");
+        }
+    };
+    for (const char* const file : kFiles) attempt([&] { touch(s.platform.files, file); });
+    attempt([&] { touch(s.platform.files, kEquipmentFile); });
     const std::string& master = s.ControlValues(setting::MasterFile);
-    if (!text::trim(master).empty()) touch(s.platform.files, master);
-    loadSyllables(s);
+    if (!text::trim(master).empty()) attempt([&] { touch(s.platform.files, master); });
+    attempt([&] { loadSyllables(s); });
+    attempt([&] { loadSixDigit(s); });
+}
+
+void loadSixDigit(Station& s) {
     rereadSixDigit(s);
+    // At the start a list that doesn't fit is a fault; a refresh passes over what is beyond the table.
+    const std::size_t items = text::items(s.platform.files.read("sixdigit.dat")).size();
+    if (items / 2 > static_cast<std::size_t>(s.session.SixDigitTable.kLast)) throw subscriptError();
 }
 
 void LogSort(Station& s) {

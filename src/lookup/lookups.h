@@ -14,5 +14,7 @@ void LogSort(Station& s);
 void CkList(Station& s);
 /// The grid of a call in the six-digit list; empty where it isn't listed.
 std::string sixDigitGridOf(const Session& session, const std::string& call);
+/// Reads "sixdigit.dat" at the start; more than 500 stations raise a fault.
+void loadSixDigit(Station& s);
 /// Reads "sixdigit.dat" anew, to at most 500 stations.
 void rereadSixDigit(Station& s);

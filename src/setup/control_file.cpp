@@ -16,6 +16,14 @@ std::int64_t lengthOfFile(Station& s) {
     return length;
 }
 
+/// A file that could not be read at the start may hold good settings: it is kept beside before a new one
+/// takes its place.
+void keepUnreadFile(Station& s) {
+    if (!s.session.controlFileUnread) return;
+    s.platform.files.replace("TARQEN32Control.old", s.platform.files.read(kControlFile));
+    s.session.controlFileUnread = false;
+}
+
 }  // namespace
 
 void SetControlDefaults(Station& s) { control::setDefaults(s.ControlValues); }
@@ -23,6 +31,7 @@ void SetControlDefaults(Station& s) { control::setDefaults(s.ControlValues); }
 void WriteControlFile(Station& s) {
     try {
         if (lengthOfFile(s) == 0) SetControlDefaults(s);
+        keepUnreadFile(s);
         s.platform.files.replace(kControlFile, control::compose(s.ControlValues));
     } catch (const FileError& error) {
         tellFileFault(
@@ -37,6 +46,7 @@ void ReadControlFile(Station& s) {
         control::parse(s.platform.files.read(kControlFile), s.ControlValues, {});
     } catch (const FileError& error) {
         SetControlDefaults(s);
+        s.session.controlFileUnread = true;
         tellFileFault(s, "Error. The settings can't be read from the control file:", error,
                       "The program goes on with the settings of a first start.");
     }

@@ -189,12 +189,13 @@ void frmLog_Load(Station& s) {
     LoadBands(s);
     SetLetterTable(session);
     form.tGridTotal.setCaption(number::toText(session.GridTotal));
-    selectBandRow(s);
+    if (session.CurrentBand != 0) selectBandRow(s);
     showForm(s);
     showSettings(s);
     startClock(s);
     form.Label4.setBackColour(forms::kRed);
     ClearEntry(s);
+    showLaterSettings(s);
     loadActivityHours(s, activityFile(session.ContestNumber));
     markDistanceContest(s);
     form.focus(form.CallS);

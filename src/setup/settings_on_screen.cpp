@@ -136,6 +136,9 @@ void showSettings(Station& s) {
     showFileNames(s);
     showHardware(s);
     showLogWindow(s);
+}
+
+void showLaterSettings(Station& s) {
     showHelpAndPorts(s);
     showMaps(s);
     showLookups(s);

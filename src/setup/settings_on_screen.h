@@ -7,6 +7,8 @@
 
 /// Shows every setting on the main form, and gives the settings that were left blank their values.
 void showSettings(Station& s);
+/// The help, the ports, the maps and the lookups, which follow once the log stands in its window.
+void showLaterSettings(Station& s);
 
 // The menu's marks that store a setting and do no more.
 void chooseLogFontWeight(Station& s, bool bold);

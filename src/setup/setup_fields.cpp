@@ -235,5 +235,4 @@ void frmSetup_Timer4(Station& s) {
     form.Label20.setEnabled(true);
     form.Timer2.stop();
     form.Timer3.stop();
-    form.Timer4.stop();
 }

@@ -16,9 +16,20 @@ namespace {
 
 constexpr const char* kPersonalFile = "Name.dat";
 
+std::string personalContent(Station& s) {
+    try {
+        touch(s.platform.files, kPersonalFile);
+        return s.platform.files.read(kPersonalFile);
+    } catch (const FileError& error) {
+        // Going on without it would put a new file over one that is there.
+        tellFileFault(s, "Error. The program's folder can't be used:", error,
+                      "Mend the rights of the folder or the disk, and run TARQEN again.");
+        endProgram();
+    }
+}
+
 void readPersonalData(Station& s) {
-    touch(s.platform.files, kPersonalFile);
-    const std::string content = s.platform.files.read(kPersonalFile);
+    const std::string content = personalContent(s);
     content.empty() ? personal::setDefaults(s.PersonalData) : personal::parse(content, s.PersonalData);
 }
 
@@ -121,6 +132,20 @@ void LoadFileHeader(Station& s) {
     session.LogOpenMode = 1;
 }
 
+namespace {
+
+void unpickLog(Station& s) {
+    SetupForm& form = s.forms.frmSetup;
+    s.session.LogFileName.clear();
+    form.fName.hide();
+    form.Label2.hide();
+    form.Label25.hide();
+    form.Label4.show();
+    form.cmdDone.setEnabled(false);
+}
+
+}  // namespace
+
 void logFile_Click(Station& s) {
     SetupForm& form = s.forms.frmSetup;
     if (form.logFile.listIndex() < 0) return;
@@ -129,7 +154,14 @@ void logFile_Click(Station& s) {
     form.fName.show();
     form.Label2.show();
     form.Label4.hide();
-    LoadFileHeader(s);
+    try {
+        LoadFileHeader(s);
+    } catch (const FileError& error) {
+        tellFileFault(s, "Error. The log file can't be used:", error,
+                      "Mend its rights, or pick another log.");
+        unpickLog(s);
+        return;
+    }
     form.cmdDone.setEnabled(true);
     s.session.LogOpenMode = 1;
     form.Label25.setCaption(s.session.ContestName);
@@ -151,6 +183,8 @@ std::string AskNewLogFile(Station& s, const std::string& prompt) {
     if (text::upper(text::right(answer, 4)) == ".LGG") {
         session.LogFileName = text::left(answer, static_cast<int>(answer.size()) - 4);
     }
+    // An ending alone is no name.
+    if (session.LogFileName.empty()) return {};
     form.fName.show();
     form.Label2.show();
     form.Label4.setCaption("New log filename to be used");
@@ -203,12 +237,13 @@ bool backupIsReady(Station& s) {
     if (text::lower(path) == "c:\\tarqen32" || text::upper(path) == "OFF") return true;
     try {
         touch(s.platform.files, path + s.session.LogFileName);
-        return true;
+        if (!isLogItself(s, backupName(s))) return true;
     } catch (const FileError&) {
-        beep(s);
-        warn(s, "Error. Check BU drive\\path: " + path);
-        return false;
+        // Told below, as a backup that is the log itself is.
     }
+    beep(s);
+    warn(s, "Error. Check BU drive\\path: " + path);
+    return false;
 }
 
 }  // namespace

@@ -17,19 +17,18 @@ void storeMenuMarks(Station& s) {
 }
 
 bool logHoldsQsos(Station& s) {
-    if (s.session.LogLineCount < kFirstQsoLine) return false;
     Files& files = s.platform.files;
-    try {
-        return !files.read(s.session.LogFileName).empty();
-    } catch (const FileError&) {
-        // A log with QSOs that can't be read now is never taken for an empty one.
-        return true;
+    // What is in the file decides, not what was read of it: a log that holds more than headers is never taken
+    // away.
+    if (s.session.LogLineCount < kFirstQsoLine) {
+        return files.exists(s.session.LogFileName) && !holdsNoQso(files, s.session.LogFileName);
     }
+    return files.exists(s.session.LogFileName);
 }
 
 void removeQuietly(Files& files, const std::string& name) {
     try {
-        if (files.exists(name)) files.remove(name);
+        if (holdsNoQso(files, name)) files.remove(name);
     } catch (const FileError&) {
         // A file without a QSO that can't be removed does no harm.
     }
@@ -49,6 +48,7 @@ void dropLogWithoutQsos(Station& s) {
 
 void cmdExit_Click(Station& s) {
     storeMenuMarks(s);
+    s.platform.windows.saveSize(s.forms.frmLog.name());
     WriteControlFile(s);
     if (!logHoldsQsos(s)) dropLogWithoutQsos(s);
     endProgram();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "setup/utc_clock.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "base/number.h"
@@ -10,12 +11,24 @@
 #include "core/search.h"
 #include "setup/control_file.h"
 
+namespace {
+
+/// An offset beyond all numbers stands for none.
+float hoursOf(std::string_view text) {
+    try {
+        return static_cast<float>(std::clamp(number::valueOf(text), -1e6, 1e6));
+    } catch (const RunTimeError&) {
+        return 0;
+    }
+}
+
+}  // namespace
+
 UtcOffset offsetOf(std::string_view text) {
     UtcOffset offset;
-    if (!text.empty()) offset.hours = static_cast<float>(number::valueOf(text));
+    if (!text.empty()) offset.hours = hoursOf(text);
     if (text::right(text, 2) == ".5") {
-        offset.hours =
-            static_cast<float>(number::valueOf(text::left(text, static_cast<int>(text.size()) - 2)));
+        offset.hours = hoursOf(text::left(text, static_cast<int>(text.size()) - 2));
         offset.half = 30;
     }
     return offset;
@@ -43,7 +56,10 @@ UtcReading utcReading(const DateTime& local, double offsetHours, int offsetHalf)
 
 namespace {
 
-std::string twoDigits(double value) { return text::digits(static_cast<long>(std::floor(value + 0.5)), 2); }
+std::string twoDigits(double value) {
+    // An offset far off any clock still gives two digits.
+    return text::digits(static_cast<long>(std::floor(std::clamp(value, -99.0, 99.0) + 0.5)), 2);
+}
 
 UtcReading readUtc(Station& s, const DateTime& local) {
     return utcReading(local, static_cast<double>(s.session.UtcOffsetHours), s.session.UtcOffsetHalf);

@@ -36,12 +36,15 @@ void wireContestForm(Station& s) {
     form.Contest.onDoubleClick = runs(s, Contest_DblClick);
     form.Sprint.onClick = runs(s, Sprint_Click);
     form.Sprint.onDoubleClick = runs(s, Sprint_DblClick);
+    // The field shows the choice and takes no text of its own.
+    form.Text1.onGotFocus = [&form] { form.focus(form.Contest); };
     form.cmdCont.onClick = runs(s, cmdCont_Click);
 }
 
 void wireUtcForm(Station& s) {
     UtcForm& form = s.forms.UTCfrm;
     form.onLoad = runs(s, UTCfrm_Load);
+    form.onUnload = [&s] { s.forms.frmSetup.Label16.setCaption(offsetCaption(s)); };
     form.Offset.onChange = runs(s, UTCfrm_Offset_Change);
     form.Offset.onLostFocus = runs(s, UTCfrm_Offset_Change);
     form.Timer.onTimer = runs(s, UTCfrm_Timer);
@@ -82,6 +85,12 @@ void wireEntry(Station& s) {
     form.Mode.onClick = [&s] { s.forms.frmLog.focus(s.forms.frmLog.CallS); };
     form.Mode.onLostFocus = runs(s, Mode_LostFocus);
     form.Bands.onClick = runs(s, Bands_Click);
+    // Lists that only show, and a band that only commands change, hand the focus back: no letter goes astray
+    // there.
+    for (forms::ListBox* const list : {&form.Worked, &form.NeedBands}) {
+        list->onClick = [&form] { form.focus(form.CallS); };
+    }
+    form.tBand.onGotFocus = [&form] { form.focus(form.CallS); };
     form.partial3D.onClick = runs(s, partial3D_Click);
     form.LastCall.onClick = runs(s, LastCall_Click);
     form.Alarm.onClick = runs(s, Alarm_Click);

@@ -10,6 +10,8 @@ struct ContestForm : forms::Form {
         Contest.named("Contests and families of sprints");
         Sprint.named("Sprints of the family");
         Text1.named("Contest chosen");
+        setHome(Contest);
+        Text1.setTabStop(false);
         Sprint.hide();
         cmdCont.setEnabled(false);
     }

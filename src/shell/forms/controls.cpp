@@ -195,11 +195,17 @@ void ListBox::clickRow(int index) {
 }
 
 void ListBox::doubleClickRow(int index) {
-    if (index >= 0 && index < listCount()) select(index);
+    // A double click beside the rows is none on the row that happens to be selected.
+    if (index < 0 || index >= listCount()) return;
+    select(index);
     raise(onDoubleClick);
 }
 
 bool ListBox::defaultKey(const KeyStroke& stroke) {
+    if ((stroke.key == Key::Enter || presses(stroke)) && listIndex_ >= 0) {
+        clickRow(listIndex_);
+        return true;
+    }
     if (!walks(stroke.key)) return false;
     const int next = rowAfter(stroke.key, listIndex_, listCount());
     if (next != listIndex_) clickRow(next);

@@ -102,6 +102,8 @@ public:
     int listIndex() const;
     void add(std::string_view item);
     void clear();
+    /// Reached by the keyboard, the whole text is selected, so that typing replaces it.
+    void selectAll() { select(0, static_cast<int>(text().size())); }
     /// The operator's pick: the text becomes the item's, then onClick is raised, and no onChange.
     void choose(int index);
     /// Up and Down walk the list as a pick does.

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "shell/forms/controls.h"
 #include "shell/forms/screen.h"
 
 namespace forms {
@@ -100,7 +101,7 @@ void Form::activate() {
     if (focused_ == nullptr) {
         const auto first = std::find_if(controls_.begin(), controls_.end(),
                                         [](Control* c) { return c->tabStop() && c->usable(); });
-        if (first != controls_.end()) focus(**first);
+        if (first != controls_.end()) focusByKey(**first);
     } else if (focusWatcher) {
         focusWatcher();
     }
@@ -117,16 +118,22 @@ void Form::focusLeaves(Control& control) {
     }
 }
 
+void Form::focusByKey(Control& control) {
+    focus(control);
+    auto* const box = dynamic_cast<ComboBox*>(&control);
+    if (box && focused_ == box) box->selectAll();
+}
+
 void Form::tab(bool forward) {
     std::vector<Control*> stops;
     std::copy_if(controls_.begin(), controls_.end(), std::back_inserter(stops),
                  [&](Control* c) { return c == focused_ || (c->tabStop() && c->usable()); });
     if (stops.empty()) return;
     const auto at = std::find(stops.begin(), stops.end(), focused_);
-    if (at == stops.end()) return focus(**stops.begin());
+    if (at == stops.end()) return focusByKey(**stops.begin());
     const auto count = stops.size();
     const auto here = static_cast<std::size_t>(at - stops.begin());
-    focus(*stops[(here + (forward ? 1 : count - 1)) % count]);
+    focusByKey(*stops[(here + (forward ? 1 : count - 1)) % count]);
 }
 
 void Form::press(KeyStroke stroke) {

@@ -72,6 +72,7 @@ private:
     friend class Control;
     void enrol(Control& control) { controls_.push_back(&control); }
     void focusLeaves(Control& control);
+    void focusByKey(Control& control);
     void tab(bool forward);
 
     Screen& screen_;

@@ -24,6 +24,8 @@ SetupForm::SetupForm(forms::Screen& screen) : Form(screen, "frmSetup", "TARQEN -
     logFile.named("Log files");
     fName.named("Name of the log file");
     Label25.named("Contest");
+    setHome(Combo4);
+    Combo20.setEnabled(false);
     fName.hide();
     Label2.hide();
     Label25.hide();
