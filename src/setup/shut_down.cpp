@@ -23,7 +23,11 @@ bool logHoldsQsos(Station& s) {
     if (s.session.LogLineCount < kFirstQsoLine) {
         return files.exists(s.session.LogFileName) && !holdsNoQso(files, s.session.LogFileName);
     }
-    return files.exists(s.session.LogFileName);
+    try {
+        return !files.read(s.session.LogFileName).empty();
+    } catch (const FileError&) {
+        return files.exists(s.session.LogFileName);
+    }
 }
 
 void removeQuietly(Files& files, const std::string& name) {

@@ -44,7 +44,6 @@ void wireContestForm(Station& s) {
 void wireUtcForm(Station& s) {
     UtcForm& form = s.forms.UTCfrm;
     form.onLoad = runs(s, UTCfrm_Load);
-    form.onUnload = [&s] { s.forms.frmSetup.Label16.setCaption(offsetCaption(s)); };
     form.Offset.onChange = runs(s, UTCfrm_Offset_Change);
     form.Offset.onLostFocus = runs(s, UTCfrm_Offset_Change);
     form.Timer.onTimer = runs(s, UTCfrm_Timer);
