@@ -33,7 +33,12 @@ void choose(Station& s, const std::string& entry) {
 }  // namespace
 
 void frmContest_Load(Station& s) {
-    s.forms.frmContest.Contest.setItems(contest::topLevel());
+    ContestForm& form = s.forms.frmContest;
+    form.Contest.setItems(contest::topLevel());
+    // A second visit starts as the first did, with nothing chosen.
+    form.Sprint.hide();
+    form.Text1.setText("");
+    form.cmdCont.setEnabled(false);
     s.session.LogLineCount = 0;
     s.session.DupeAccepted = false;
 }
