@@ -169,8 +169,9 @@ void logFile_Click(Station& s) {
 }
 
 void logFile_DblClick(Station& s) {
-    // The click that goes before has picked the file.
-    if (s.forms.frmSetup.logFile.listIndex() >= 0) cmdDone_Click(s);
+    // The click that goes before has picked the file, unless the file could not be used.
+    const SetupForm& form = s.forms.frmSetup;
+    if (form.logFile.listIndex() >= 0 && form.cmdDone.enabled()) cmdDone_Click(s);
 }
 
 std::string AskNewLogFile(Station& s, const std::string& prompt) {
