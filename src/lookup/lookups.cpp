@@ -29,12 +29,16 @@ void loadSyllables(Station& s) {
 
 void InitialFiles(Station& s) {
     LoadBandNames(s.session);
-    const auto attempt = [&s](const auto& step) {
+    // In a folder that takes no files the first one tells of them all.
+    bool told = false;
+    const auto attempt = [&s, &told](const auto& step) {
         try {
             step();
         } catch (const FileError& error) {
-            tellFileFault(s, "Error. A lookup file can't be opened:", error,
-                          "The program goes on without it.");
+            if (!told)
+                tellFileFault(s, "Error. Lookup files can't be opened. The first of them:", error,
+                              "The program goes on without them.");
+            told = true;
         }
     };
     for (const char* const file : kFiles) attempt([&] { touch(s.platform.files, file); });
