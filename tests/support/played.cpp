@@ -1,23 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "support/played.h"
 
-#include <sstream>
-
 #include "base/text.h"
-#include "shell/linux/posix_files.h"
-#include "shell/program.h"
+#include "shell/headless/player.h"
 #include "shell/show.h"
 
-Outcome playProgram(const TempFolder& folder, const std::string& script) {
+PlayedProgram::PlayedProgram(const TempFolder& folder)
+    : files_(folder.path()), machine_(files_, out_), program_(machine_.platform) {}
+
+Outcome PlayedProgram::play(const std::string& script) {
     std::istringstream in(script);
-    std::ostringstream out, errors;
-    PosixFiles files(folder.path());
-    HeadlessMachine machine(files, out);
-    Program program(machine.platform);
+    std::ostringstream errors;
+    out_.str("");
     const auto field = [&](std::string_view name, const std::vector<int>& indices) {
-        return fieldValue(program.station(), name, indices);
+        return fieldValue(program_.station(), name, indices);
     };
-    Player player(machine, {program.screen(), [&] { program.start(); }, field});
+    Player player(machine_, {program_.screen(), [&] { program_.start(); }, field});
     const int status = player.play(in, errors);
-    return {status, text::lines(out.str()), errors.str()};
+    return {status, text::lines(out_.str()), errors.str()};
+}
+
+Outcome playProgram(const TempFolder& folder, const std::string& script) {
+    return PlayedProgram(folder).play(script);
 }
