@@ -180,11 +180,12 @@ TEST_F(ShowFields, PrintsNothingForOtherNamesAndIndices) {
     EXPECT_EQ(value("ActivityHours", {0}), "nothing");
 }
 
-/// The names of the fields that a struct of the sources declares, by their text.
+/// The fixed names of the fields that a struct of the sources declares, by their text. Those begin with a
+/// capital.
 std::vector<std::string> fieldNames(const std::string& header) {
     std::ifstream in(structure::sourceDir() / header);
     std::vector<std::string> names;
-    const std::regex field(R"(^    [A-Za-z_][\w:<>, ]* (\w+)( = [^;]*)?;$)");
+    const std::regex field(R"(^    [A-Za-z_][\w:<>, ]* ([A-Z]\w*)( = [^;]*)?;$)");
     bool inside = false;
     for (std::string line; std::getline(in, line);) {
         if (line.starts_with("struct ")) inside = true;
