@@ -8,6 +8,7 @@
 #include "core/entry_fields.h"
 #include "core/qso_line.h"
 #include "core/say.h"
+#include "core/tally.h"
 
 namespace {
 
@@ -95,6 +96,7 @@ void mStartDate_Click(Station& s) {
     if (answer.empty()) answer = known;
     session.StartDate = answer;
     form.menu.mStartDate.setCaption("Start Date = " + answer);
+    if (bandIndex(session, form.tBand.text()) == 0) return form.focus(form.CallS);
     // The band entered as a command brings the entry fields up to date.
     form.CallS.setText(form.tBand.text());
     forms::KeyPress enter{13};

@@ -6,6 +6,7 @@
 #include "contest/scoring.h"
 #include "core/accept_prompt.h"
 #include "core/dupe_check.h"
+#include "core/entry_fields.h"
 #include "core/grid_format.h"
 #include "core/log_file.h"
 #include "core/needed_bands.h"
@@ -43,6 +44,7 @@ bool canBeLogged(Station& s) {
 std::string beginLog(Station& s) {
     Session& session = s.session;
     session.LogLineCount = kFirstQsoLine;
+    session.LogLines(kFirstQsoLine).clear();
     session.LogLines(1) = session.ContestName;
     session.LogLines(2) = qso::header(s.PersonalData(personal::Call), session.ContestNumber);
     return session.LogLines(1) + kCrLf + session.LogLines(2) + kCrLf;
@@ -51,6 +53,8 @@ std::string beginLog(Station& s) {
 void findPoints(Station& s) {
     Session& session = s.session;
     if (scoresByDistance(s)) {
+        // A locator that is none earns nothing, and never what the QSO before earned.
+        session.QSOPoints = "0";
         CalcSixDigit2(s, s.forms.frmLog.tGrid.text());
         getSprintScore(s);
         return;
@@ -70,6 +74,7 @@ void settleDupe(Station& s) {
     if (session.DupeAccepted) {
         session.QSOPoints = "0";
         --session.BandQSOs(session.CurrentBand);
+        ++session.DupeCount;
     }
     session.DupeAccepted = false;
 }
@@ -113,6 +118,7 @@ void showAccepted(Station& s) {
     form.QSOs.select(form.QSOs.listCount() - 1);
     form.QsoRat.setCaption(number::toText(UpdateQSORate(session)));
     form.QSO.setCaption(number::toText(session.BandQSOs(session.CurrentBand)));
+    showDupes(s);
     scoresByDistance(s) ? getSprintScore(s) : getScore(s);
     bandWorkedNow(s);
 }
@@ -128,6 +134,18 @@ void clearEntry(Station& s) {
     form.focus(form.CallS);
 }
 
+/// The QSO that was not logged stands as before the accept, one key away from it.
+void waitForAnotherTry(Station& s, const std::string& newGrid) {
+    LogForm& form = s.forms.frmLog;
+    form.NewGrid.setCaption(newGrid);
+    form.Label6.setBackColour(kLightYellow);
+    if (autoAccept(s)) {
+        form.focus(form.tGrid);
+    } else {
+        QueryState(s);
+    }
+}
+
 }  // namespace
 
 void cUpDate_Click(Station& s) {
@@ -135,19 +153,19 @@ void cUpDate_Click(Station& s) {
     Session& session = s.session;
     LogForm& form = s.forms.frmLog;
     const CountsBefore before(session);
-    const std::string grid = form.tGrid.text();
+    const std::string grid = form.tGrid.text(), newGrid = form.NewGrid.caption();
     session.CurrentCall = text::trim(session.CurrentCall);
     session.NewGridMark.clear();
     try {
         if (!session.DupeAccepted) CheckNewGrid(s);
         putOnDisk(s);
     } catch (const FileError& error) {
-        session.LogLines(session.LogLineCount).clear();
         before.putBack(session);
         form.tGrid.setText(grid);
         form.Grid.setCaption(number::toText(session.BandGrids(session.CurrentBand)));
         tellFileFault(s, "Error. The QSO is not logged. The log file can't be written:", error,
                       "Make room on the disk or mend the folder, then accept the QSO again.");
+        waitForAnotherTry(s, newGrid);
         return;
     }
     showAccepted(s);

@@ -151,6 +151,11 @@ void CheckCall(Station& s) {
     const std::string text(text::trimRight(form.CallS.text()));
     if (text.size() == 1 || twoCharacterCommand(s, text)) return;
     if (text.empty()) return;
+    if (text == "F00" || text == "F000" || text == "F0000") {
+        form.CallS.setText("F001");
+        form.focus(form.CallS);
+        return;
+    }
     if (call::isIfCommand(text)) {
         cleared(s);
         return;

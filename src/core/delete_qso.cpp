@@ -22,6 +22,19 @@ bool operatorAgrees(Station& s) {
                                        Buttons::OkCancel, Answer::Ok}) == Answer::Ok;
 }
 
+/// Beyond the limit of a load the file has lines that memory lacks; writing memory out would lose them.
+bool fileHoldsMore(Station& s) {
+    const Session& session = s.session;
+    if (session.LogLineCount <= kLogLineLimit) return false;
+    if (session.LogLines(session.LogLineCount).empty()) return true;
+    try {
+        return static_cast<int>(text::lines(s.platform.files.read(session.LogFileName)).size()) >
+               session.LogLineCount;
+    } catch (const FileError&) {
+        return false;
+    }
+}
+
 void takeLastLineOff(Station& s) {
     Session& session = s.session;
     forms::ListBox& list = s.forms.frmLog.QSOs;
@@ -58,6 +71,14 @@ void DeleteQSO_Click(Station& s) {
         form.focus(form.CallS);
         return;
     }
+    if (fileHoldsMore(s)) {
+        warn(s,
+             std::string("The log file holds more QSOs than the 2500 that fit.") + kCrLf +
+                 "Nothing is deleted, so that none of them is lost.",
+             " 2500 QSO limit");
+        form.focus(form.CallS);
+        return;
+    }
     try {
         s.platform.files.replace(besideLog(session, 4, ".bu1"), wholeLog(session));
         const std::string last = session.LogLines(session.LogLineCount);
@@ -89,7 +110,7 @@ void fBackup_Click(Station& s) {
     try {
         s.platform.files.replace(besideLog(s.session, 3, "BAK"), wholeLog(s.session));
     } catch (const FileError&) {
-        warn(s, "An error occurred. File not written....");
+        tell(s, "An error occurred. File not written....");
     }
     form.focus(form.CallS);
 }

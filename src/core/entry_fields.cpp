@@ -34,14 +34,19 @@ bool entersData(int code) { return code == kEnter || code == kSpace; }
 
 /// Headers without a QSO are no log: the file goes, and the count begins anew.
 void dropEmptyLog(Station& s) {
-    s.session.LogLineCount = 0;
     Files& files = s.platform.files;
+    const std::string& log = s.session.LogFileName;
+    const auto removeIfEmpty = [&files](const std::string& name) {
+        if (files.exists(name) && holdsNoQso(files, name)) files.remove(name);
+    };
     try {
-        if (!holdsNoQso(files, s.session.LogFileName)) return;
-        files.remove(s.session.LogFileName);
-        if (backupOn(s) && holdsNoQso(files, backupName(s))) files.remove(backupName(s));
-    } catch (const FileError&) {
-        // The next accept appends to whatever is there, on a line of its own.
+        if (files.exists(log) && !holdsNoQso(files, log)) return RefreshLogCount(s);
+        removeIfEmpty(log);
+        s.session.LogLineCount = 0;
+        if (backupOn(s)) removeIfEmpty(backupName(s));
+    } catch (const FileError& error) {
+        tellFileFault(s, "Error. A log file without QSOs can't be removed:", error,
+                      "Mend the folder and go on.");
     }
 }
 
@@ -100,8 +105,12 @@ void enterCall(Station& s) {
         form.focus(form.CallS);
         return;
     }
-    if (form.CallS.text().size() < 6 && form.partial3D.checked() && s.session.LookupHit == 0)
+    if (form.CallS.text().size() < 6 && form.partial3D.checked() && s.session.LookupHit == 0) {
+        const std::string call = form.CallS.text();
         PartialSearch(s);
+        // Keys run during the long search; an Esc there has taken the entry back.
+        if (form.CallS.text() != call) return;
+    }
     if (!form.tGrid.text().empty()) {
         s.session.GridEntered = true;
         QueryState(s);
@@ -112,15 +121,15 @@ void enterCall(Station& s) {
 
 namespace {
 
-void warnOfBadGrid(Station& s, const std::string& square) {
+void warnOfBadGrid(Station& s, const std::string& grid) {
     Files& files = s.platform.files;
     touch(files, "ckgrid.dat");
     for (const std::string& line : text::lines(files.read("ckgrid.dat"))) {
-        if (line != square) continue;
-        warn(s,
-             square + " is in the [ckgrid.dat] data file." + kCrLf + kCrLf +
-                 " Verify that this is a good grid.",
-             " Check grid !");
+        if (line != text::left(grid, 4)) continue;
+        warn(
+            s,
+            grid + " is in the [ckgrid.dat] data file." + kCrLf + kCrLf + " Verify that this is a good grid.",
+            " Check grid !");
     }
 }
 
@@ -132,17 +141,20 @@ void enterGridField(Station& s) {
     form.tGrid.setText(qso::subSquareForm(form.tGrid.text()));
     if (form.tGrid.text().empty() || form.CallS.text().size() < 3) {
         form.cUpdate.hide();
+        if (form.CallS.text().size() >= 3) form.focus(form.tGrid);
         return;
     }
     s.session.CurrentCall = text::upper(text::trim(form.CallS.text()));
     if (form.tGrid.text().size() < 4) {
         form.tGrid.setText("");
         form.cUpdate.hide();
+        // The calculation took the focus to the call field; the grid is still wanted.
+        form.focus(form.tGrid);
         return;
     }
     CheckGridFormat(s);
     try {
-        warnOfBadGrid(s, std::string(text::left(form.tGrid.text(), 4)));
+        warnOfBadGrid(s, form.tGrid.text());
     } catch (const FileError& error) {
         tellFileFault(s, "Error. The list of grids to be checked can't be used:", error,
                       "The QSO goes on without the check.");
@@ -169,6 +181,8 @@ void tGrid_KeyPress(Station& s, forms::KeyPress& key) {
 void tGrid_GotFocus(Station& s) {
     LogForm& form = s.forms.frmLog;
     if (!form.CallS.text().empty() && !s.session.DupeCheckDone) DupeCheck(s);
+    // A dupe that was declined has sent the focus back.
+    if (form.focused() != &form.tGrid) return;
     form.Label5.setBackColour(forms::kRed);
     form.Label4.setBackColour(kLightGreen);
     form.Label7.setBackColour(kLightGreen);
@@ -187,7 +201,9 @@ void ResetQSO(Station& s) {
     form.QSummary.hide();
     form.cmdQSum.setChecked(false);
     form.cmdQSum.setForeColour(forms::kBlack);
+    form.CList.clear();
     form.CList.hide();
     form.Search1.hide();
+    form.Search2.show();
     form.Heading.setCaption("");
 }

@@ -18,6 +18,7 @@ bool CheckGridFormat(Station& s) {
         form.focus(form.tGrid);
         return true;
     }
+    form.tGrid.setText(text::upper(form.tGrid.text()));
     if (looksLikeGrid(form.tGrid.text())) return true;
     form.cUpdate.hide();
     tell(s, length == 4 ? "Check grid format LL##" : "Check grid format LL##LL");

@@ -59,7 +59,20 @@ void tellBackupFault(Station& s) {
 
 LogAppender::LogAppender(Station& s) : s_(s), log_(s.platform.files.append(s.session.LogFileName)) {
     length_ = log_->length();
+    if (length_ == 0 && s.session.LogLineCount >= kFirstQsoLine) restoreLostLog();
     openBackup();
+}
+
+/// The file was taken away behind the program's back: memory holds all of it.
+void LogAppender::restoreLostLog() {
+    Files& files = s_.platform.files;
+    const std::string& name = s_.session.LogFileName;
+    log_->close();
+    files.replace(name, wholeLog(s_.session));
+    log_ = files.append(name);
+    length_ = log_->length();
+    warn(s_, "The log file " + files.path(name) + kCrLf +
+                 "was gone or empty. It has been written anew from memory.");
 }
 
 void LogAppender::openBackup() {
@@ -77,7 +90,7 @@ void LogAppender::openBackup() {
             return;
         } catch (const FileError&) {
             beep(s_);
-            if (backup_) backup_->close();
+            backup_.reset();
             tellBackupFault(s_);
         }
     }
@@ -107,22 +120,40 @@ void appendWhole(OutFile& file, const std::string& bytes) {
     }
 }
 
+/// What was synced is on the disk, whatever the closing says of it: a line told as lost would be logged
+/// twice.
+void closeQuietly(OutFile& file) {
+    try {
+        file.close();
+    } catch (const FileError&) {
+        // The line is safe.
+    }
+}
+
 }  // namespace
 
 void LogAppender::appendToLog(const std::string& bytes) {
     appendWhole(*log_, bytes);
-    log_->close();
+    closeQuietly(*log_);
 }
 
 void LogAppender::appendToBackup(const std::string& bytes) {
     if (!backup_) return;
     try {
         appendWhole(*backup_, bytes);
-        backup_->close();
+        closeQuietly(*backup_);
     } catch (const FileError&) {
         backup_.reset();
         tellBackupFault(s_);
     }
+}
+
+void showDupes(Station& s) {
+    forms::MenuItem& menu = s.forms.frmLog.menu.mdupes;
+    menu.hide();
+    if (s.session.DupeCount == 0) return;
+    menu.setCaption("Dupes: " + number::toText(s.session.DupeCount));
+    menu.show();
 }
 
 namespace {
@@ -141,17 +172,31 @@ void readLines(Station& s) {
     markBandsWorked(session);
 }
 
-void showDupes(Station& s) {
-    forms::MenuItem& menu = s.forms.frmLog.menu.mdupes;
-    menu.hide();
-    if (s.session.DupeCount == 0) return;
-    menu.setCaption("Dupes: " + number::toText(s.session.DupeCount));
-    menu.show();
-}
-
 void showBandCounts(Station& s, int band) {
     s.forms.frmLog.QSO.setCaption(number::toText(s.session.BandQSOs(band)));
     s.forms.frmLog.Grid.setCaption(number::toText(s.session.BandGrids(band)));
+}
+
+/// What the headers and the first QSO tell of the log.
+void showHeaders(Station& s) {
+    Session& session = s.session;
+    LogForm& form = s.forms.frmLog;
+    form.cSignText.setCaption(qso::headerCall(session.LogLines(2)));
+    session.StartDate = qso::date(session.LogLines(kFirstQsoLine));
+    form.menu.mStartDate.setCaption("Start Date = " + session.StartDate);
+}
+
+/// What the contest's number means to the labels.
+void showContest(Station& s) {
+    LogForm& form = s.forms.frmLog;
+    const int number = contest::numberOf(s.session.ContestNumber);
+    if (contest::singleBandWhenReopened(number)) form.Label18.setCaption("Bands");
+    if (contest::scoresByDistance(number)) form.menu.mWriteSum.setEnabled(false);
+}
+
+/// The flag that there is no log to check against falls with the first QSO; only a lookup raises it.
+void lowerEmptyFlag(Session& session) {
+    if (session.LogLineCount >= kFirstQsoLine) session.LogIsEmpty = false;
 }
 
 /// The session resumes where the last QSO was made.
@@ -164,9 +209,6 @@ void resumeOnLastQso(Station& s) {
     form.Freq.setCaption(band);
     form.tBand.setText(band);
     form.Mode.setText(qso::mode(last));
-    form.cSignText.setCaption(qso::headerCall(session.LogLines(2)));
-    session.StartDate = qso::date(session.LogLines(kFirstQsoLine));
-    form.menu.mStartDate.setCaption("Start Date = " + session.StartDate);
     const int index = bandIndex(session, band);
     if (index == 0) return;
     showBandCounts(s, index);
@@ -179,16 +221,15 @@ void loadAndShow(Station& s) {
     LoadBandNames(session);
     session.LogLineCount = 0;
     readLines(s);
-    session.LogIsEmpty = session.LogLineCount < kFirstQsoLine;
+    lowerEmptyFlag(session);
     session.GridTotal = 0;
     countLines(session);
     showDupes(s);
     resumeOnLastQso(s);
+    showHeaders(s);
     session.ContestNumber = qso::headerContest(session.LogLines(2));
-    const int number = contest::numberOf(session.ContestNumber);
-    if (contest::singleBandWhenReopened(number)) form.Label18.setCaption("Bands");
-    if (contest::scoresByDistance(number)) {
-        form.menu.mWriteSum.setEnabled(false);
+    showContest(s);
+    if (scoresByDistance(s)) {
         getSprintScore(s);
     } else {
         ContestPoints(s);
@@ -220,6 +261,13 @@ void readAgain(Session& session, const std::vector<std::string>& lines) {
     }
 }
 
+/// The counts of what memory holds, where the file has nothing to say.
+void countMemory(Station& s) {
+    markBandsWorked(s.session);
+    countLines(s.session);
+    showDupes(s);
+}
+
 }  // namespace
 
 void RefreshLogCount(Station& s) {
@@ -228,21 +276,30 @@ void RefreshLogCount(Station& s) {
     // A log that was never begun, or whose headers alone were taken away, has no file.
     if (session.LogLineCount == 0 && !files.exists(session.LogFileName)) return;
     std::vector<std::string> lines;
+    const bool held = session.LogLineCount >= kFirstQsoLine;
     try {
         lines = text::lines(files.read(session.LogFileName));
     } catch (const FileError& error) {
         tellFileFault(s, "Error. The log file can't be read:", error,
                       "The log goes on with the QSOs that are in memory. Check the file.");
-        return;
+        return countMemory(s);
+    }
+    if (held && lines.size() < 2) {
+        warn(s, "The log file " + files.path(session.LogFileName) + kCrLf +
+                    "is empty. The log goes on with the QSOs that are in memory." + kCrLf +
+                    "The next QSO writes all of them to the file again.");
+        return countMemory(s);
     }
     readAgain(session, lines);
     markBandsWorked(session);
-    session.LogIsEmpty = session.LogLineCount < kFirstQsoLine;
+    lowerEmptyFlag(session);
     countLines(session);
     showDupes(s);
     const int band = bandIndex(session, qso::band(session.LogLines(session.LogLineCount)));
     if (band != 0) showBandCounts(s, band);
     if (session.LogLineCount >= 2) session.ContestNumber = qso::headerContest(session.LogLines(2));
+    if (session.LogLineCount >= kFirstQsoLine) showHeaders(s);
+    showContest(s);
     if (scoresByDistance(s)) {
         getSprintScore(s);
         return;

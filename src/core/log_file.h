@@ -19,6 +19,9 @@ std::string wholeLog(const Session& session);
 /// The name of a copy beside the log: its last `cut` characters replaced by `ending`.
 std::string besideLog(const Session& session, int cut, const std::string& ending);
 
+/// The menu of dupes, with their count, while the log holds any.
+void showDupes(Station& s);
+
 bool backupOn(const Station& s);
 /// The backup path with its slash, and the log's name.
 std::string backupName(const Station& s);
@@ -45,6 +48,7 @@ public:
 
 private:
     void openBackup();
+    void restoreLostLog();
     Station& s_;
     std::unique_ptr<OutFile> log_, backup_;
     std::int64_t length_ = 0;

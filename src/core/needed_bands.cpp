@@ -29,13 +29,13 @@ void bandWorkedNow(Station& s) {
     form.Worked.add(form.tBand.text());
     const int first = s.session.ContestNumber == "3" ? 3 : kFirstBand;
     for (int band = first; band <= kLastBand; ++band) {
-        std::string& needed = s.session.StationBands(band);
+        std::string& needed = s.session.NeededBand(band);
         if (needed == form.tBand.text()) needed.clear();
     }
     form.NeedBands.clear();
     for (int band = kFirstBand; band <= kLastBand; ++band) {
-        const std::string& needed = s.session.StationBands(band);
-        const bool wanted = !usesOwnBands(s) || std::find(own.begin(), own.end(), needed) != own.end();
+        const std::string& needed = s.session.NeededBand(band);
+        const bool wanted = own.empty() || std::find(own.begin(), own.end(), needed) != own.end();
         if (!needed.empty() && wanted) form.NeedBands.add(needed);
     }
 }

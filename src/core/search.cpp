@@ -69,7 +69,8 @@ void QSOs_Click(Station& s) {
         form.focus(form.CallS);
         return;
     }
-    const std::string line = form.QSOs.content();
+    // Before the first QSO the window holds hints, which name no station.
+    const std::string line = s.session.LogLineCount < kFirstQsoLine ? std::string() : form.QSOs.content();
     s.session.CurrentCall = qso::call(line);
     form.CallS.setText(s.session.CurrentCall);
     form.tGrid.setText(qso::grid(line));
@@ -89,6 +90,12 @@ std::string searchRow(std::string_view line) {
 }
 
 namespace {
+
+/// A search empties the call field: a QSO that waits there must not be logged without its call on the screen.
+void dropWaitingQso(Station& s) {
+    s.forms.frmLog.cUpdate.hide();
+    s.forms.frmLog.Query.hide();
+}
 
 void openResults(Station& s) {
     LogForm& form = s.forms.frmLog;
@@ -112,6 +119,7 @@ void offerFreeSearch(Station& s) {
 
 void Search1_Click(Station& s) {
     LogForm& form = s.forms.frmLog;
+    dropWaitingQso(s);
     openResults(s);
     form.CallS.setText("");
     for (int line = kFirstQsoLine; line <= s.session.LogLineCount; ++line) {
@@ -123,6 +131,7 @@ void Search1_Click(Station& s) {
 
 void Search2_Click(Station& s) {
     LogForm& form = s.forms.frmLog;
+    dropWaitingQso(s);
     form.CallS.setText("");
     form.PLogSort.hide();
     form.PLogSort.clear();
@@ -142,6 +151,7 @@ void Search2_Click(Station& s) {
 
 void CallSearch(Station& s, const std::string& wanted) {
     LogForm& form = s.forms.frmLog;
+    dropWaitingQso(s);
     form.CallS.setText("");
     form.PLogSort.hide();
     openResults(s);
@@ -199,5 +209,6 @@ void PartialSearch(Station& s) {
     for (const std::string& row : master::partialRows(content, part)) {
         addResult(s, row);
         s.platform.windows.pump();
+        if (form.CallS.text() != part) return;
     }
 }

@@ -62,7 +62,7 @@ struct Session {
     Table<Table<std::string, 0, 2>, 0, 30> MatchList;
     Table<Table<std::string, 0, 2>, 0, 30> MatchSorted;
     /// The bands that a lookup offers for the station in work, by band index; a worked one is blank.
-    PerBand<std::string> StationBands;
+    PerBand<std::string> NeededBand;
 
     float UtcOffsetHours = 0;
     Int16 UtcOffsetHalf;

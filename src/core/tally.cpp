@@ -43,6 +43,7 @@ void countLines(Session& session) {
 CountsBefore::CountsBefore(const Session& session)
     : lineCount_(session.LogLineCount),
       gridTotal_(session.GridTotal),
+      dupeCount_(session.DupeCount),
       qsos_(session.BandQSOs),
       grids_(session.BandGrids),
       points_(session.QSOPoints),
@@ -51,6 +52,8 @@ CountsBefore::CountsBefore(const Session& session)
       gridEntered_(session.GridEntered) {}
 
 void CountsBefore::putBack(Session& session) const {
+    for (int line = lineCount_ + 1; line <= session.LogLineCount; ++line) session.LogLines(line).clear();
+    session.DupeCount = dupeCount_;
     session.LogLineCount = lineCount_;
     session.GridTotal = gridTotal_;
     session.BandQSOs = qsos_;

@@ -18,10 +18,11 @@ void LoadBandNames(Session& session);
 /// What an accept changes before its line is on the disk, so that it can be put back when the disk refuses.
 struct CountsBefore {
     explicit CountsBefore(const Session& session);
+    /// Empties the lines that were begun since, and puts the figures back.
     void putBack(Session& session) const;
 
 private:
-    Int16 lineCount_, gridTotal_;
+    Int16 lineCount_, gridTotal_, dupeCount_;
     PerBand<Int16> qsos_, grids_;
     std::string points_, mark_;
     bool dupeAccepted_, gridEntered_;

@@ -78,6 +78,8 @@ void wireEntry(Station& s) {
     form.tGrid.onKeyPress = [&s](forms::KeyPress& key) { tGrid_KeyPress(s, key); };
     form.tGrid.onGotFocus = runs(s, tGrid_GotFocus);
     form.cUpdate.onClick = runs(s, cUpDate_Click);
+    // Its two modes are picked, not typed; a letter there would stand for nothing.
+    form.Combo3.onKeyPress = [](forms::KeyPress& key) { key.swallowed = key.code >= 32; };
     form.Combo3.onClick = runs(s, Combo3_Click);
     form.Combo3.onChange = runs(s, Combo3_Change);
     form.Mode.onChange = runs(s, Mode_Change);

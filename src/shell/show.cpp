@@ -90,7 +90,7 @@ constexpr std::array kFields = {
     ofSession<&Session::MatchBand>("MatchBand"),
     ofSession<&Session::MatchList>("MatchList"),
     ofSession<&Session::MatchSorted>("MatchSorted"),
-    ofSession<&Session::StationBands>("StationBands"),
+    ofSession<&Session::NeededBand>("NeededBand"),
     ofSession<&Session::UtcOffsetHours>("UtcOffsetHours"),
     ofSession<&Session::UtcOffsetHalf>("UtcOffsetHalf"),
     ofSession<&Session::AlarmTime>("AlarmTime"),

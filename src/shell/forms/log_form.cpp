@@ -36,6 +36,7 @@ LogForm::LogForm(forms::Screen& screen) : Form(screen, "frmLog", "TARQEN") {
     cSignText.named("Own call sign");
     ContName.named("Contest");
     DOSFile.named("Log file");
+    partial3D.setToolTip(" Check this box to use ADIF partial search - <Enter> 3 char or more ");
     tBand.setTabStop(false);
     Bands.setTabStop(false);
     for (forms::ListBox* const list : {&Worked, &NeedBands, &QSOs, &PCalls, &PLogSort, &QSummary, &CList}) {

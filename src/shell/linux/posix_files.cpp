@@ -115,7 +115,11 @@ void PosixFiles::replace(const std::string& name, std::string_view content) {
         // The operator knows the file by its own name.
         throw FileError(fault.what(), shownPath(path), fault.reason);
     }
-    syncFolderOf(path);
+    try {
+        syncFolderOf(path);
+    } catch (const FileError&) {
+        // The new content is in place; telling of a failure now would make a caller undo what has been done.
+    }
 }
 
 std::string PosixFiles::read(const std::string& name) {
