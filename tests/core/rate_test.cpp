@@ -42,6 +42,12 @@ TEST(QsoRate, IsZeroWithoutASpanAndAcrossMidnight) {
     EXPECT_EQ(rateOver("2358", "0003"), 0);
 }
 
+TEST(QsoRate, OfTimesThatAreNoDigitsStaysANumber) {
+    EXPECT_EQ(rateOver("0000", ".5  "), 1200);
+    EXPECT_GT(rateOver("0000", "1E-9"), 0);
+    EXPECT_EQ(rateOver("abcd", "efgh"), 0);
+}
+
 TEST(QsoRate, BeginsWithTheTwelfthLine) {
     Session session;
     std::vector<std::string> lines(9, sample::lineOf({.time = "0002"}));
