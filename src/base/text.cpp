@@ -2,7 +2,9 @@
 #include "base/text.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
+#include <cstring>
 
 namespace text {
 
@@ -73,9 +75,35 @@ char lower(char character) {
     return character;
 }
 
+namespace {
+
+constexpr std::uint64_t eachByte(unsigned value) { return 0x0101010101010101U * std::uint64_t{value}; }
+constexpr std::uint64_t kHighBits = eachByte(0x80);
+
+/// Eight characters below 128 at once: the high bit of each tells whether it lies in "a" to "z", and is 32
+/// two places further down.
+std::uint64_t upperOfEight(std::uint64_t eight) {
+    const std::uint64_t fromA = eight + eachByte(0x80 - 'a'), beyondZ = eight + eachByte(0x80 - 'z' - 1);
+    return eight - ((fromA & ~beyondZ & kHighBits) >> 2);
+}
+
+}  // namespace
+
 std::string upper(std::string_view value) {
     std::string result(value);
-    std::transform(result.begin(), result.end(), result.begin(), [](char c) { return upper(c); });
+    std::size_t at = 0;
+    // Whole lookup files go through here.
+    for (std::uint64_t eight = 0; at + sizeof eight <= result.size(); at += sizeof eight) {
+        std::memcpy(&eight, result.data() + at, sizeof eight);
+        if ((eight & kHighBits) == 0) {
+            eight = upperOfEight(eight);
+            std::memcpy(result.data() + at, &eight, sizeof eight);
+        } else {
+            std::transform(&result[at], &result[at] + sizeof eight, &result[at],
+                           [](char c) { return upper(c); });
+        }
+    }
+    for (; at < result.size(); ++at) result[at] = upper(result[at]);
     return result;
 }
 

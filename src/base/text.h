@@ -31,6 +31,12 @@ char upper(char character);
 char lower(char character);
 /// The same text when case is not looked at.
 bool same(std::string_view one, std::string_view other);
+/// Whether `part` stands in a line from a column (counted from 1) on. Inline, for scans of whole logs.
+inline bool standsAt(std::string_view line, int column, std::string_view part) {
+    const auto start = static_cast<std::size_t>(column - 1);
+    const std::string_view rest = start < line.size() ? line.substr(start) : std::string_view{};
+    return rest.substr(0, part.size()) == part;
+}
 bool startsWith(std::string_view value, std::string_view start);
 bool endsWith(std::string_view value, std::string_view end);
 bool contains(std::string_view value, std::string_view part);

@@ -13,6 +13,12 @@ namespace {
 
 constexpr int kMostMatches = 30;
 
+/// Most lines differ in the columns of the call themselves; only the others are cut and trimmed.
+bool isCallOf(std::string_view line, std::string_view call) {
+    if (!text::standsAt(line, 27, call) && !text::standsAt(line, 27, " ")) return false;
+    return qso::call(line) == call;
+}
+
 }  // namespace
 
 Dupe scanLog(Session& session, std::string_view call, std::string_view band) {
@@ -20,7 +26,7 @@ Dupe scanLog(Session& session, std::string_view call, std::string_view band) {
     session.MatchCount = 0;
     for (int number = kFirstQsoLine; number <= session.LogLineCount; ++number) {
         const std::string& line = session.LogLines(number);
-        if (qso::call(line) != call) continue;
+        if (!isCallOf(line, call)) continue;
         if (session.MatchCount < kMostMatches) ++session.MatchCount;
         const std::string_view lineBand = qso::band(line);
         session.MatchBand(session.MatchCount) = lineBand;

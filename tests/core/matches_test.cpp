@@ -84,6 +84,14 @@ TEST(DupeCheck, ReadsTwelveColumnsOfACall) {
     EXPECT_EQ(session.MatchCount, 0);
 }
 
+TEST(DupeCheck, ReadsACallWithoutTheBlanksAround) {
+    Session session = logOf({lineOf({.call = "  W1XYZ"}), lineOf({.call = " W1XYZA"}), "", "144"});
+    EXPECT_EQ(scanLog(session, "W1XYZ", "144").line, 3);
+    EXPECT_EQ(session.MatchCount, 1);
+    scanLog(session, "", "144");
+    EXPECT_EQ(session.MatchCount, 2);
+}
+
 TEST(DupeCheck, KeepsTheMatchesInLogOrder) {
     Session session =
         logOf({lineOf({.band = "432", .grid = "FN31"}), lineOf({.call = "K1AA"}),

@@ -3,8 +3,14 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <string>
 #include <vector>
+
+#include "base/text.h"
+#include "shell/headless/headless_machine.h"
+#include "shell/linux/posix_files.h"
+#include "support/temp_folder.h"
 
 namespace {
 
@@ -17,6 +23,43 @@ std::string stationOf(const std::string& call, const std::string& grid) {
 }
 
 const std::string kHead = "W1XYZ IN THE HEADER\r\n<EOH>\r\n";
+
+/// What the master file of a folder is read as.
+std::string contentRead(const TempFolder& folder) {
+    PosixFiles disk(folder.path());
+    std::ostringstream out;
+    HeadlessMachine machine(disk, out);
+    Station station(machine.platform);
+    station.ControlValues(setting::MasterFile) = "tqn4k.adi";
+    return master::content(station);
+}
+
+TEST(MasterFile, IsReadInUpperCaseWhateverItsLength) {
+    const TempFolder folder;
+    const std::string mixed = "w1xyz@[`{09~,<gridsquare:6>fn31pr\xE9\xFF\r\nabcdefghijklmnopqrstuvwxyz\x9A";
+    const std::string upper = "W1XYZ@[`{09~,<GRIDSQUARE:6>FN31PR\xC9\x9F\r\nABCDEFGHIJKLMNOPQRSTUVWXYZ\x8A";
+    for (std::size_t length = 0; length <= mixed.size(); ++length) {
+        folder.write("tqn4k.adi", mixed.substr(0, length));
+        EXPECT_EQ(contentRead(folder), upper.substr(0, length));
+    }
+}
+
+TEST(MasterFile, IsReadInUpperCaseWithEachCharacterAtEachPlace) {
+    const TempFolder folder;
+    std::string mixed, upper;
+    for (std::size_t place = 0; place < 8; ++place) {
+        for (int code = 0; code < 256; ++code) {
+            std::string eight = "aZz@[`{\x7F";
+            eight[place] = static_cast<char>(code);
+            mixed += eight;
+            for (const char c : eight) upper += text::upper(c);
+        }
+    }
+    folder.write("tqn4k.adi", mixed);
+    EXPECT_EQ(contentRead(folder), upper);
+}
+
+TEST(MasterFile, ThatIsMissingIsEmpty) { EXPECT_EQ(contentRead(TempFolder()), ""); }
 
 TEST(MasterFile, GivesCallAndGridOfAHit) {
     const std::string content = kHead + stationOf("W1XYZ", "FN31PR") + stationOf("K3ABC", "FN20");
