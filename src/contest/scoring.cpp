@@ -103,6 +103,15 @@ void CheckNewGrid(Station& s) {
     }
 }
 
+void getPageTotals(Station& s) {
+    constexpr int kMostPages = 31, kLinesOfAPage = 50;
+    for (int page = 1; page <= kMostPages; ++page) {
+        if (s.session.LogLineCount - 1 > page * kLinesOfAPage) continue;
+        s.session.PageTotal = page;
+        return;
+    }
+}
+
 void RoverGridCheck(Station& s) {
     const LogForm& form = s.forms.frmLog;
     s.session.DupeAccepted = false;

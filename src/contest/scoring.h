@@ -15,6 +15,8 @@ void getSprintScore(Station& s);
 void CheckNewGrid(Station& s);
 /// Whether the station in work was logged on this band from this grid before: then it stays an accepted dupe.
 void RoverGridCheck(Station& s);
+/// The pages of a printed log, 50 lines each, into `PageTotal`; beyond 31 pages it keeps what it held.
+void getPageTotals(Station& s);
 /// The sums of the counts, into the session; nothing is shown.
 void addUp(Station& s);
 /// `TotalScore` as the contest shows it: grouped, empty at 0, or the pointer to the summary in contest 19.

@@ -81,6 +81,7 @@ struct Session {
     std::string RecipGrid;
     std::string IFOffsetDummy;
     Int16 CWSpeed = 20;
+    Int16 PageTotal;
     Int16 SelectedMap;
     std::string PopUpTopic;
     Int16 TXActive;

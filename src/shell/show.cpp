@@ -105,6 +105,7 @@ constexpr std::array kFields = {
     ofSession<&Session::RecipGrid>("RecipGrid"),
     ofSession<&Session::IFOffsetDummy>("IFOffsetDummy"),
     ofSession<&Session::CWSpeed>("CWSpeed"),
+    ofSession<&Session::PageTotal>("PageTotal"),
     ofSession<&Session::SelectedMap>("SelectedMap"),
     ofSession<&Session::PopUpTopic>("PopUpTopic"),
     ofSession<&Session::TXActive>("TXActive"),
