@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QListView>
 #include <QTest>
-#include <QTimer>
 #include <string>
 
 #include "shell/forms/all_forms.h"
@@ -30,13 +29,6 @@ struct Desk {
     explicit Desk(forms::Form& shown) : Desk() { show(shown); }
     Desk() {
         forms.screen.onFault = [this](const std::string& text) { fault = text; };
-    }
-
-    ~Desk() {
-        if (!forms.screen.ended()) return;
-        // The program that ended asked the application to end as well; the next test needs it again.
-        QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(0); });
-        QCoreApplication::exec();
     }
 
     void show(forms::Form& form) {

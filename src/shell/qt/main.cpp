@@ -33,6 +33,7 @@ int runProgram() {
     Program program(machine.platform());
     WindowsFront front(program.screen(), machine.platform().clock);
     machine.attach(&front);
+    front.onEnded = [] { QCoreApplication::exit(0); };
     QTimer::singleShot(0, &front, [&] { front.enter([&](forms::Screen&) { program.start(); }); });
     const int result = QApplication::exec();
     machine.attach(nullptr);

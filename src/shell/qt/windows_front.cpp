@@ -30,7 +30,7 @@ void WindowsFront::enter(const std::function<void(forms::Screen&)>& event) {
     }
     if (screen_.active() != before) awaited_ = screen_.active();
     if (screen_.ended()) {
-        QCoreApplication::exit(0);
+        if (onEnded) onEnded();
     } else {
         rearm();
     }

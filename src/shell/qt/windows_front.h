@@ -30,6 +30,9 @@ public:
     /// The window in front, over which a dialog opens; null where none is shown.
     QWidget* frontWindow() const;
 
+    /// Called after the event with which the program has ended.
+    std::function<void()> onEnded;
+
     /// While one lives, no event and no timer reaches the program.
     class Hold {
     public:
