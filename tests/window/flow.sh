@@ -132,7 +132,7 @@ front "TARQEN - Setup"
 new_log jan InputBox
 press Down
 picture frmContest
-press Tab Tab Return
+click_at -70 -30
 front "TARQEN - Setup"
 click_at -70 -30
 main_form
@@ -163,7 +163,7 @@ front "TARQEN - Setup"
 new_log sprint
 press Down Down Down Down Down Down Down Tab Down
 picture frmContest2
-press Tab Tab Return
+click_at -70 -30
 front "TARQEN - Setup"
 click_at -70 -30
 main_form

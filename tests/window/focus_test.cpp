@@ -105,11 +105,10 @@ private:
     int boxes_ = 0;
 };
 
-/// Where the keys don't go to the call field: a field that was clicked, a list that only shows, and the
-/// button at which a QSO waits that a command called up with its grid.
+/// Where the keys don't go to the call field: a field that was clicked, and the button at which a QSO waits
+/// that a command called up with its grid.
 const std::map<std::string, std::string> kElsewhere = {
-    {"click tGrid", "tGrid"},           {"click tBand", "tBand"},
-    {"click Worked", "lost at Worked"}, {"click NeedBands", "lost at NeedBands"},
+    {"click tGrid", "tGrid"},
     {"command L2", "lost at cUpdate"},
 };
 
