@@ -64,7 +64,8 @@ namespace {
 bool gridOnBandBefore(const Session& session, std::string_view band, std::string_view square) {
     for (int line = kFirstQsoLine; line <= session.LogLineCount; ++line) {
         const std::string& text = session.LogLines(line);
-        if (qso::band(text) == band && text::trim(qso::square(text)) == square) return true;
+        // Most lines differ in their square, which is the quicker one to compare.
+        if (text::trim(qso::square(text)) == square && qso::band(text) == band) return true;
     }
     return false;
 }

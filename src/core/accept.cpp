@@ -113,7 +113,8 @@ void showAccepted(Station& s) {
     Session& session = s.session;
     LogForm& form = s.forms.frmLog;
     session.LogIsEmpty = false;
-    markBandsWorked(session);
+    const int band = bandIndex(session, form.tBand.text());
+    if (band != 0) session.BandWorked(band) = true;
     form.QSOs.add(session.LogLines(session.LogLineCount));
     form.QSOs.select(form.QSOs.listCount() - 1);
     form.QsoRat.setCaption(number::toText(UpdateQSORate(session)));

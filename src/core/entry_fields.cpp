@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr int kBackspace = 8, kEnter = 13, kEsc = 27, kSpace = 32;
+constexpr int kEnter = 13, kSpace = 32;
 
 bool refusedInCall(int code) {
     constexpr std::array<int, 12> kCodes{9, 34, 39, 44, 45, 46, 59, 61, 91, 92, 93, 96};
