@@ -134,18 +134,16 @@ bool isDigit(char character) { return character >= '0' && character <= '9'; }
 
 std::string blanks(int count) { return std::string(count < 1 ? 0 : static_cast<std::size_t>(count), ' '); }
 
-std::vector<std::string> lines(std::string_view content) {
+std::vector<std::string> lines(std::string_view content, std::size_t most) {
+    const auto endsLine = [](char character) { return character == '\r' || character == '\n'; };
     std::vector<std::string> result;
-    std::size_t start = 0;
-    while (start < content.size()) {
-        const std::size_t end = content.find_first_of("\r\n", start);
-        if (end == std::string_view::npos) {
-            result.emplace_back(content.substr(start));
-            break;
-        }
-        result.emplace_back(content.substr(start, end - start));
-        const bool pair = content[end] == '\r' && end + 1 < content.size() && content[end + 1] == '\n';
-        start = end + (pair ? 2 : 1);
+    auto start = content.begin();
+    while (start != content.end() && result.size() < most) {
+        const auto end = std::find_if(start, content.end(), endsLine);
+        result.emplace_back(start, end);
+        if (end == content.end()) break;
+        const bool pair = *end == '\r' && std::next(end) != content.end() && *std::next(end) == '\n';
+        start = std::next(end, pair ? 2 : 1);
     }
     return result;
 }

@@ -4,6 +4,7 @@
 // columns.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -44,8 +45,8 @@ bool isDigit(char character);
 /// `count` blanks; none for a count below 1.
 std::string blanks(int count);
 /// The lines of a file's content without their ends (CR LF, a lone LF or a lone CR). A last line without an
-/// end counts.
-std::vector<std::string> lines(std::string_view content);
+/// end counts. Only the first `most` where there are more.
+std::vector<std::string> lines(std::string_view content, std::size_t most = SIZE_MAX);
 /// The items of a content separated by commas and line ends. A quoted item runs to its closing quote and what
 /// follows up to the separator is dropped; an unquoted one loses the blanks around it. An empty line is one
 /// empty item.

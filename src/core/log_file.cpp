@@ -160,14 +160,14 @@ namespace {
 
 void readLines(Station& s) {
     Session& session = s.session;
-    for (const std::string& line : text::lines(s.platform.files.read(session.LogFileName))) {
+    for (std::string& line : text::lines(s.platform.files.read(session.LogFileName))) {
         if (session.LogLineCount == kLogLineLimit) {
             warn(s, std::string("Number of QSOs exceeds the 2500 limit...") + kCrLf + "  Extra ignored...",
                  " 2500 QSO limit");
             break;
         }
         ++session.LogLineCount;
-        session.LogLines(session.LogLineCount) = line;
+        session.LogLines(session.LogLineCount) = std::move(line);
     }
     markBandsWorked(session);
 }

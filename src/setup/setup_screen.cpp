@@ -126,7 +126,7 @@ void LoadFileHeader(Station& s) {
     Session& session = s.session;
     // The program's folder is the current one, so that the bare name is the whole way.
     touch(s.platform.files, session.LogFileName);
-    const std::vector<std::string> lines = text::lines(s.platform.files.read(session.LogFileName));
+    const auto lines = text::lines(s.platform.files.read(session.LogFileName), 2);
     if (!lines.empty()) session.ContestName = lines[0];
     if (lines.size() > 1) session.CurrentCall = qso::headerCall(lines[1]);
     session.LogOpenMode = 1;

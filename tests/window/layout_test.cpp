@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "desk.h"
+#include "shell/qt/layouts.h"
 
 namespace {
 
@@ -75,10 +76,24 @@ TEST(Layout, WidgetOfAWrongKindIsTold) {
 TEST(Layout, FormWithoutALayoutIsTold) {
     forms::Screen screen;
     TrialForm form(screen);
-    EXPECT_THROW(loadLayout(form), LayoutError);
+    NoEntrance entrance;
+    EXPECT_THROW(FormWindow(form, layoutOf("frmTrial"), entrance), LayoutError);
 }
 
-TEST(Layout, EveryFormOfTheProgramFitsItsLayout) { EXPECT_NO_THROW(Desk()); }
+TEST(Layout, EveryFormOfTheProgramFitsItsLayout) {
+    Desk desk;
+    for (const forms::Form* const form : desk.forms.screen.forms()) {
+        EXPECT_NO_THROW(desk.front.find(form->name())) << form->name();
+    }
+}
+
+TEST(Layout, EveryWindowIsMadeSoonAfterTheFirst) {
+    Desk desk;
+    EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
+    desk.show(desk.forms.frmStart);
+    const auto wanted = std::ssize(desk.forms.screen.forms());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::topLevelWidgets().size() >= wanted; }));
+}
 
 TEST(Layout, HiddenControlKeepsItsPlace) {
     Desk desk;

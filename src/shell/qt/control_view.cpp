@@ -58,7 +58,8 @@ void ControlView::mirror(forms::Property property) {
             nameForReaders();
             break;
         case forms::Property::Visible:
-            widget_.setVisible(control_.visible());
+            // Qt lays a form out anew even for a widget that is shown already.
+            if (widget_.isHidden() == control_.visible()) widget_.setVisible(control_.visible());
             break;
         case forms::Property::Enabled:
             widget_.setEnabled(control_.enabled());

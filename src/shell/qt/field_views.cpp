@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/qt/field_views.h"
 
+#include <QCompleter>
 #include <QSignalBlocker>
 
 #include "shell/qt/codec.h"
@@ -25,11 +26,24 @@ void TextBoxView::mirror(forms::Property property) {
     ControlView::mirror(property);
 }
 
+namespace {
+
+/// Gives a combo box a line to type in, without the completer and the list that Qt would make with it at once
+/// and that cost more than all else of the box.
+void makeEditable(QComboBox& combo) {
+    QCompleter none;
+    auto* const line = new QLineEdit(&combo);
+    line->setCompleter(&none);
+    combo.setLineEdit(line);
+    combo.setCompleter(nullptr);
+}
+
+}  // namespace
+
 ComboBoxView::ComboBoxView(forms::ComboBox& box, QComboBox& combo, Entrance& entrance)
     : ControlView(box, combo, entrance), box_(box), combo_(combo) {
-    combo_.setEditable(true);
+    makeEditable(combo_);
     combo_.setInsertPolicy(QComboBox::NoInsert);
-    combo_.setCompleter(nullptr);
     // Qt takes a text that equals an item for a pick as soon as the focus leaves; nobody has picked anything.
     QObject::disconnect(combo_.lineEdit(), &QLineEdit::editingFinished, &combo_, nullptr);
     combo_.lineEdit()->setAccessibleName(combo_.accessibleName());

@@ -3,16 +3,12 @@
 
 #include <QAbstractScrollArea>
 #include <QComboBox>
-#include <QCoreApplication>
-#include <QFile>
 #include <QMainWindow>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollBar>
-#include <QUiLoader>
 #include <algorithm>
 
-#include "base/text.h"
 #include "shell/qt/codec.h"
 
 namespace {
@@ -40,24 +36,9 @@ bool isQtsOwn(const QWidget& widget) {
 
 }  // namespace
 
-std::unique_ptr<QWidget> loadLayout(const forms::Form& form) {
-    QFile file(":/ui/" + codec::toQt(text::lower(form.name())) + ".ui");
-    if (!file.open(QIODevice::ReadOnly)) throw LayoutError("The form " + form.name() + " has no layout.");
-    // Making a loader would load every designer's plug-in of the desktop, none of which these layouts use.
-    const QStringList plugIns = QCoreApplication::libraryPaths();
-    QCoreApplication::setLibraryPaths({});
-    QUiLoader loader;
-    QCoreApplication::setLibraryPaths(plugIns);
-    std::unique_ptr<QWidget> window(loader.load(&file));
-    if (!window) {
-        throw LayoutError("The layout of " + form.name() +
-                          " can't be read: " + loader.errorString().toStdString());
-    }
-    return window;
-}
-
 FormWindow::FormWindow(forms::Form& form, std::unique_ptr<QWidget> layout, Entrance& entrance)
     : form_(form), window_(std::move(layout)) {
+    if (window_ == nullptr) throw LayoutError("The form " + form_.name() + " has no layout.");
     if (window_->property("splash").toBool())
         window_->setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
     window_->setFocusPolicy(Qt::NoFocus);

@@ -22,7 +22,7 @@ struct LayoutError : std::runtime_error {
 class FormWindow : public QObject {
     Q_OBJECT
 public:
-    /// `layout` is a window as the designer made it, not shown yet.
+    /// `layout` is a window as the designer made it, not shown yet. Raises LayoutError where it doesn't fit.
     FormWindow(forms::Form& form, std::unique_ptr<QWidget> layout, Entrance& entrance);
     ~FormWindow() override;
 
@@ -55,6 +55,3 @@ private:
     std::vector<std::pair<QWidget*, const QWidget*>> overlays_;
     bool focusing_ = false;
 };
-
-/// The layout of a form from the program's resources.
-std::unique_ptr<QWidget> loadLayout(const forms::Form& form);

@@ -2,10 +2,23 @@
 #include "shell/qt/menu_view.h"
 
 #include <QCursor>
-#include <QRegularExpression>
 #include <algorithm>
 
 #include "shell/qt/codec.h"
+
+namespace {
+
+/// The letter behind the single "&" of a menu's text, in lower case; null where there is none.
+QChar markedLetter(const QString& text) {
+    for (qsizetype at = 0; at + 1 < text.size(); ++at) {
+        if (text.at(at) != '&') continue;
+        if (text.at(at + 1) != '&') return text.at(at + 1).toLower();
+        ++at;
+    }
+    return {};
+}
+
+}  // namespace
 
 MenuView::MenuView(const std::vector<forms::MenuItem*>& items, QMenuBar& bar, Entrance& entrance)
     : bar_(bar), entrance_(entrance), items_(items) {
@@ -49,16 +62,13 @@ QAction* MenuView::actionOf(const forms::MenuItem& item) const { return entries_
 
 QString MenuView::captionOf(const forms::MenuItem& item) const {
     QString caption = codec::toQt(item.caption()).replace('&', "&&");
-    const auto isTaken = [&](QChar letter) {
-        return std::any_of(items_.begin(), items_.end(), [&](const forms::MenuItem* other) {
-            if (other == &item || other->parent() != item.parent()) return false;
-            const QString text = entries_.at(other).action->text();
-            const auto mark = text.indexOf(QRegularExpression("&[^&]"));
-            return mark >= 0 && text.at(mark + 1).toLower() == letter.toLower();
-        });
-    };
+    QString taken;
+    for (const forms::MenuItem* const other : items_) {
+        if (other == &item || other->parent() != item.parent()) continue;
+        taken += markedLetter(entries_.at(other).action->text());
+    }
     const auto free = std::find_if(caption.begin(), caption.end(), [&](QChar letter) {
-        return letter.isLetterOrNumber() && !isTaken(letter);
+        return letter.isLetterOrNumber() && !taken.contains(letter.toLower());
     });
     if (free != caption.end()) caption.insert(free - caption.begin(), '&');
     return caption;

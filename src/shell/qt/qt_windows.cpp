@@ -2,7 +2,6 @@
 #include "shell/qt/qt_windows.h"
 
 #include <QCoreApplication>
-#include <QSettings>
 
 #include "shell/qt/codec.h"
 #include "shell/qt/qt_dialogs.h"
@@ -23,18 +22,16 @@ void QtWindows::pump() {
 void QtWindows::saveSize(const std::string& form) {
     const FormWindow* const window = front_ ? front_->find(form) : nullptr;
     if (window == nullptr) return;
-    QSettings settings;
-    settings.setValue(keyOf(form, "maximised"), window->window().isMaximized());
-    settings.setValue(keyOf(form, "size"), window->window().normalGeometry().size());
+    settings_.setValue(keyOf(form, "maximised"), window->window().isMaximized());
+    settings_.setValue(keyOf(form, "size"), window->window().normalGeometry().size());
 }
 
 void QtWindows::restoreSize(const std::string& form) {
     const FormWindow* const window = front_ ? front_->find(form) : nullptr;
     if (window == nullptr) return;
-    const QSettings settings;
-    const QSize size = settings.value(keyOf(form, "size")).toSize();
+    const QSize size = settings_.value(keyOf(form, "size")).toSize();
     if (size.isValid()) window->window().resize(size);
-    if (settings.value(keyOf(form, "maximised")).toBool()) {
+    if (settings_.value(keyOf(form, "maximised")).toBool()) {
         window->window().setWindowState(window->window().windowState() | Qt::WindowMaximized);
     }
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QSettings>
+
 #include "shell/platform/clock.h"
 #include "shell/platform/windows.h"
 #include "shell/qt/windows_front.h"
@@ -16,4 +18,6 @@ public:
 
 private:
     WindowsFront* front_ = nullptr;
+    // One that stays, so that what it is told is written between two events and not while the operator waits.
+    QSettings settings_;
 };

@@ -16,7 +16,9 @@
 class WindowsFront : public QObject, public Entrance {
     Q_OBJECT
 public:
-    /// Raises LayoutError where a layout doesn't fit its form.
+    /// A window is made when its form is shown or asked for, and the others one by one soon after the first,
+    /// so that the operator neither waits for all of them at the start nor for one later. A layout that
+    /// doesn't fit its form ends the program as a fault of a routine does.
     WindowsFront(forms::Screen& screen, Clock& clock);
     ~WindowsFront() override;
 
@@ -24,8 +26,8 @@ public:
     /// Runs the timers that are due, and goes on waiting for the next.
     void runTimers();
     forms::Screen& screen() const { return screen_; }
-    /// The window of a form, or null.
-    FormWindow* find(const std::string& form) const;
+    /// The window of a form, made where it wasn't yet; null where there is no such form.
+    FormWindow* find(const std::string& name);
     FormWindow* of(const QWidget& widget) const;
     /// The window in front, over which a dialog opens; null where none is shown.
     QWidget* frontWindow() const;
@@ -63,11 +65,15 @@ private:
     bool handle(FormWindow& window, QWidget& on, QEvent& event);
     bool handleWindow(FormWindow& window, QEvent& event);
     void rearm();
+    void awaitFirstShow(forms::Form& form);
+    FormWindow& make(forms::Form& form);
+    FormWindow* made(const forms::Form& form) const;
+    void makeNext();
 
     forms::Screen& screen_;
     Clock& clock_;
     std::vector<std::unique_ptr<FormWindow>> windows_;
-    QTimer poll_;
+    QTimer poll_, spare_;
     /// The form that the program brought to the front last and whose window the desktop has still to
     /// activate.
     const forms::Form* awaited_ = nullptr;
