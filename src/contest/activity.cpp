@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "contest/activity.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "base/number.h"
@@ -22,6 +23,13 @@ std::string captionOf(std::string_view rest, bool lookForMembers) {
     if (rest == "903 and up") return "903 and up";
     if (rest == "Check List") return lookForMembers ? "Look for Rats" : "Check List";
     return std::string(rest) + " MHz";
+}
+
+/// Whether two columns of an entry hold a number; what is no number must not pass for midnight.
+bool says(std::string_view columns, int number) {
+    const std::string_view figures = text::trim(columns);
+    return columns.size() == 2 && !figures.empty() &&
+           std::all_of(figures.begin(), figures.end(), text::isDigit) && number::valueOf(figures) == number;
 }
 
 }  // namespace
@@ -56,9 +64,8 @@ int contestDay(std::string_view utcDate, std::string_view startDate) {
 std::string activityCaption(std::span<const std::string> entries, int day, int hour, bool lookForMembers,
                             std::string caption) {
     for (const std::string& entry : entries) {
-        const bool fits = number::valueOf(text::columns(entry, 1, 2)) == day &&
-                          number::valueOf(text::columns(entry, 3, 4)) == hour;
-        if (fits) caption = captionOf(text::from(entry, 5), lookForMembers);
+        if (says(text::columns(entry, 1, 2), day) && says(text::columns(entry, 3, 4), hour))
+            caption = captionOf(text::from(entry, 5), lookForMembers);
     }
     return caption == " MHz" ? "Normal" : caption;
 }

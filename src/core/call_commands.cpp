@@ -39,6 +39,8 @@ Verdict did(Station& s, const std::function<void()>& effect) {
 Verdict bandChosen(Station& s, int band) {
     s.session.CurrentBand = band;
     showBand(s);
+    // The keys leave an empty offset in its place; a command takes it away.
+    if (s.forms.frmLog.IfOffSet.caption().empty()) s.forms.frmLog.IfOffSet.hide();
     return Verdict::Done;
 }
 
@@ -68,7 +70,7 @@ Found singleCharacter(Station& s, const std::string& text) {
         form.tGrid.setText(session.LastGrid);
         return Verdict::Call;
     }
-    if (text == "S" && session.LogLineCount >= kFirstQsoLine) {
+    if (text == "S") {
         recall(s, session.LogLineCount);
         form.tGrid.setText(qso::grid(session.LogLines(session.LogLineCount)));
         return Verdict::Call;

@@ -25,7 +25,7 @@ bool operatorAgrees(Station& s) {
 /// Beyond the limit of a load the file has lines that memory lacks; writing memory out would lose them.
 bool fileHoldsMore(Station& s) {
     const Session& session = s.session;
-    if (session.LogLineCount <= kLogLineLimit) return false;
+    if (session.LogLineCount < kLogLineLimit) return false;
     if (session.LogLines(session.LogLineCount).empty()) return true;
     try {
         return static_cast<int>(text::lines(s.platform.files.read(session.LogFileName)).size()) >
@@ -67,15 +67,15 @@ void DeleteQSO_Click(Station& s) {
         form.focus(form.CallS);
         return;
     }
-    if (!operatorAgrees(s)) {
-        form.focus(form.CallS);
-        return;
-    }
     if (fileHoldsMore(s)) {
         warn(s,
              std::string("The log file holds more QSOs than the 2500 that fit.") + kCrLf +
                  "Nothing is deleted, so that none of them is lost.",
              " 2500 QSO limit");
+        form.focus(form.CallS);
+        return;
+    }
+    if (!operatorAgrees(s)) {
         form.focus(form.CallS);
         return;
     }

@@ -186,10 +186,10 @@ void LoadSixDigitGrid(Station& s) {
     Session& session = s.session;
     LogForm& form = s.forms.frmLog;
     if (qso::endsInRover(session.CurrentCall) || s.ControlValues(setting::RoverPrompts) == "No") return;
-    const std::string grid = sixDigitGridOf(session, session.CurrentCall);
-    if (grid.empty()) return;
+    const auto grid = sixDigitGridOf(session, session.CurrentCall);
+    if (!grid) return;
     if (session.LookupHit != 1) {
-        form.tGrid.setText(text::trim(text::left(grid, 6)));
+        form.tGrid.setText(text::trim(text::left(*grid, 6)));
         CalcSixDigit(s, form.tGrid.text());
         form.Heading.show();
     }

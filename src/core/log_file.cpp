@@ -297,8 +297,10 @@ void RefreshLogCount(Station& s) {
     showDupes(s);
     const int band = bandIndex(session, qso::band(session.LogLines(session.LogLineCount)));
     if (band != 0) showBandCounts(s, band);
-    if (session.LogLineCount >= 2) session.ContestNumber = qso::headerContest(session.LogLines(2));
-    if (session.LogLineCount >= kFirstQsoLine) showHeaders(s);
+    if (session.LogLineCount >= 2) {
+        session.ContestNumber = qso::headerContest(session.LogLines(2));
+        showHeaders(s);
+    }
     showContest(s);
     if (scoresByDistance(s)) {
         getSprintScore(s);

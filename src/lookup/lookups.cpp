@@ -62,11 +62,11 @@ void LogSort(Station& s) {
 
 void CkList(Station&) {}
 
-std::string sixDigitGridOf(const Session& session, const std::string& call) {
+std::optional<std::string> sixDigitGridOf(const Session& session, const std::string& call) {
     for (int entry = 1; entry <= session.SixDigitCount; ++entry) {
         if (session.SixDigitTable(entry)(0) == call) return session.SixDigitTable(entry)(1);
     }
-    return {};
+    return std::nullopt;
 }
 
 void rereadSixDigit(Station& s) {

@@ -109,7 +109,7 @@ std::string compose(const Settings& values) {
 
 void setDefaults(Settings& values) {
     for (const Entry& entry : kEntries) {
-        if (!entry.standard.empty()) values(entry.index) = entry.standard;
+        values(entry.index) = entry.standard;
     }
 }
 

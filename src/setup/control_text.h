@@ -13,7 +13,7 @@ namespace control {
 
 /// The whole file, in the fixed order of the keys.
 std::string compose(const Settings& values);
-/// The values of a new file; settings without one are left as they are.
+/// The values of a new file; a setting without one is empty.
 void setDefaults(Settings& values);
 /// Takes the values of the keys that the content holds, in any case and any order; the last of a key wins,
 /// everything else is passed over. `taken` is told each setting as it is read.

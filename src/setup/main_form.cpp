@@ -38,7 +38,11 @@ void refuseEmptyLog(Station& s) {
              "the logger B4 entering any QSOs. This is OK,\nyou just need to start over.\n\n"
              "   The empty file will be deleted...\n\n   Hit OK and run TARQEN again.",
          " Log has no QSOs...");
-    s.platform.files.remove(name);
+    try {
+        s.platform.files.remove(name);
+    } catch (const FileError&) {
+        // It is met again, and told again, at the next start.
+    }
     endProgram();
 }
 
@@ -53,7 +57,9 @@ void openExistingLog(Station& s) {
     }
     if (length < kSmallestLog) refuseEmptyLog(s);
     InputLogFile(s);
-    if (contest::hasStartDate(contestNumber(s))) s.forms.frmLog.menu.mStartDate.setEnabled(true);
+    // A number that can't be read counts as one of the four contests with hours of activity.
+    if (contestNumber(s) <= 0 || contest::hasStartDate(contestNumber(s)))
+        s.forms.frmLog.menu.mStartDate.setEnabled(true);
 }
 
 /// How long the file is that a new log would go to; made where it is missing.

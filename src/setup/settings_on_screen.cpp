@@ -111,8 +111,8 @@ void showMaps(Station& s) {
 
 void showLookups(Station& s) {
     LogMenu& menu = s.forms.frmLog.menu;
-    const bool blank = text::trim(value(s, setting::MasterLookup)).empty();
-    menu.mMasterCalls.setChecked(blank || uses(s, setting::MasterLookup));
+    const std::string_view master = text::trim(value(s, setting::MasterLookup));
+    menu.mMasterCalls.setChecked(master.empty() || text::upper(text::left(master, 3)) == "USE");
     std::string& file = s.ControlValues(setting::MasterFile);
     if (file.empty()) file = "tqn4k.adi";
     menu.mMasterSet.setCaption("Set master adif - " + text::lower(file));

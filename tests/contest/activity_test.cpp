@@ -102,6 +102,8 @@ TEST(ActivityHour, LooksForTheClubsMembersOnlyInTheCheckListHour) {
 
 TEST(ActivityHour, PassesOverEntriesThatAreShortOrBad) {
     EXPECT_EQ(after({"", "0", "01", "011", "xx14144", "01xx144"}, 1, 14), "Normal");
+    EXPECT_EQ(after({"", "0", "01", "010", "01xx144", "01  144"}, 1, 0, false, "50 MHz"), "50 MHz");
+    EXPECT_EQ(after({"0100144"}, 1, 0, false, "50 MHz"), "144 MHz");
 }
 
 }  // namespace

@@ -118,6 +118,7 @@ TEST(ScoreSummary, NarrowsTheGapsBehindPointsAndGridsTheSameWay) {
 }
 
 TEST(ScoreSummary, NarrowsTheGapBehindTheTotalOfQsosUpToAThousand) {
+    EXPECT_EQ(totalsOf({0, 0, 0, 0}), "  Totals   0       0        0        0");
     EXPECT_EQ(totalsOf({1, 1, 1, 1}), "  Totals   1       1        1        1");
     EXPECT_EQ(totalsOf({9, 1, 1, 1}), "  Totals   9       1        1        1");
     EXPECT_EQ(totalsOf({10, 1, 1, 1}), "  Totals   10      1        1        1");

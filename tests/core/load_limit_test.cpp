@@ -61,3 +61,20 @@ TEST_F(Limit, ARefreshCountsOneSlotMoreWithoutReadingIt) {
     EXPECT_EQ(station.station().session.LogLineCount, 2503);
     EXPECT_EQ(station.station().session.BandQSOs(1), 2500);
 }
+
+TEST_F(Limit, NothingIsDeletedWhereTheFileHoldsMore) {
+    load(2501);
+    for (const char* const before : {"", "type rf\nkey Enter\n"}) {
+        ASSERT_TRUE(station.play(std::string(before) + "reply OK\ntype dl\nkey Enter\n")) << station.reason();
+        EXPECT_TRUE(text::contains(station.transcript(), "Nothing is deleted")) << station.transcript();
+        EXPECT_EQ(folder.read("JAN.lgg"), logOf(2501));
+        EXPECT_FALSE(folder.has("JAN.bu1"));
+    }
+}
+
+TEST_F(Limit, TheLastQsoOfAFullLogIsDeleted) {
+    load(2500);
+    ASSERT_TRUE(station.play("reply OK\ntype dl\nkey Enter\n")) << station.reason();
+    EXPECT_EQ(folder.read("JAN.lgg"), logOf(2499));
+    EXPECT_EQ(folder.read("JAN.bu1"), logOf(2500));
+}

@@ -22,13 +22,20 @@ TEST(SixDigitList, GivesTheGridOfTheFirstEntryOfACall) {
 
 TEST(SixDigitList, KnowsNoOtherCall) {
     Session session;
-    EXPECT_EQ(sixDigitGridOf(session, "K3ABC"), "");
+    EXPECT_EQ(sixDigitGridOf(session, "K3ABC"), std::nullopt);
     put(session, 1, "K3ABC", "FN20JK");
     put(session, 2, "W1XYZ", "FN31PR");
     session.SixDigitCount = 1;
-    EXPECT_EQ(sixDigitGridOf(session, "W1XYZ"), "");
-    EXPECT_EQ(sixDigitGridOf(session, "K3AB"), "");
-    EXPECT_EQ(sixDigitGridOf(session, "K3ABC/R"), "");
+    EXPECT_EQ(sixDigitGridOf(session, "W1XYZ"), std::nullopt);
+    EXPECT_EQ(sixDigitGridOf(session, "K3AB"), std::nullopt);
+    EXPECT_EQ(sixDigitGridOf(session, "K3ABC/R"), std::nullopt);
+}
+
+TEST(SixDigitList, MayKnowACallWithoutItsGrid) {
+    Session session;
+    put(session, 1, "K3ABC", "");
+    session.SixDigitCount = 1;
+    EXPECT_EQ(sixDigitGridOf(session, "K3ABC"), "");
 }
 
 TEST(SixDigitList, HoldsFiveHundredEntries) {

@@ -103,18 +103,17 @@ TEST(ControlText, OfANewFileHoldsTheDefaults) {
     EXPECT_EQ(control::compose(values), fileOf(expected));
 }
 
-TEST(ControlDefaults, LeaveSettingsWithoutOneAlone) {
+TEST(ControlDefaults, EmptyTheSettingsOfTheFileWithoutOne) {
     Settings values;
     for (int index = 0; index <= 55; ++index) values(index) = "before";
     control::setDefaults(values);
-    std::set<int> withDefault;
+    std::set<int> inFile;
     for (const Row& row : kRows) {
-        if (std::string(row.standard).empty()) continue;
-        withDefault.insert(row.index);
+        inFile.insert(row.index);
         EXPECT_EQ(values(row.index), row.standard) << row.key;
     }
     for (int index = 0; index <= 55; ++index) {
-        if (withDefault.count(index) == 0) {
+        if (inFile.count(index) == 0) {
             EXPECT_EQ(values(index), "before") << index;
         }
     }
