@@ -32,8 +32,8 @@ std::string totalsLine(const Session& session) {
     for (int band = kFirstBand; band <= kLastBand; ++band) qsos += session.BandQSOs(band);
     const std::int64_t points = session.TotalQSOPoints;
     const int grids = session.GridTotal;
-    return "  Totals   " + number::toText(qsos) + gap(qsos, 7, 4) + number::toText(points) + gap(points, 8, 6) +
-           number::toText(grids) + gap(grids, 8, 6) +
+    return "  Totals   " + number::toText(qsos) + gap(qsos, 7, 4) + number::toText(points) +
+           gap(points, 8, 6) + number::toText(grids) + gap(grids, 8, 6) +
            number::toText(static_cast<std::int64_t>(session.TotalScore));
 }
 

@@ -24,6 +24,12 @@ std::vector<forms::MenuItem*> menuItemsOf(const forms::Form& form) {
     return items;
 }
 
+/// A timer is on no window, and the menus are no widgets of the layout.
+bool hasWidget(const forms::Control& control) {
+    return dynamic_cast<const forms::Timer*>(&control) == nullptr &&
+           dynamic_cast<const forms::MenuItem*>(&control) == nullptr;
+}
+
 /// The parts that Qt makes inside its own widgets, and the frames of a window, have no control.
 bool isQtsOwn(const QWidget& widget) {
     const QString name = widget.objectName();
@@ -58,7 +64,7 @@ FormWindow::~FormWindow() {
 
 void FormWindow::bind(Entrance& entrance) {
     for (forms::Control* const control : form_.controls()) {
-        if (dynamic_cast<forms::Timer*>(control) || dynamic_cast<forms::MenuItem*>(control)) continue;
+        if (!hasWidget(*control)) continue;
         const std::string place = form_.name() + "." + control->name();
         auto* const widget = window_->findChild<QWidget*>(codec::toQt(control->name()));
         if (widget == nullptr) throw LayoutError("The control " + place + " has no widget.");
