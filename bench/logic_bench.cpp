@@ -7,18 +7,17 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <string>
 #include <vector>
 
+#include "bench_log.h"
 #include "contest/points.h"
 #include "contest/scoring.h"
 #include "core/accept.h"
 #include "core/dupe_check.h"
 #include "core/log_file.h"
-#include "core/qso_line.h"
 #include "core/search.h"
 #include "grid/path.h"
 #include "lookup/master_file.h"
@@ -29,30 +28,11 @@
 
 namespace {
 
-constexpr int kQsos = 2500, kMatches = 30, kStations = 50000;
-constexpr const char* kWanted = "W1XYZ";
+using namespace bench;
+
+constexpr int kStations = 50000;
 /// Part of the call of a few stations in the master file.
 constexpr const char* kPart = "1LL";
-
-/// A folder of its own on a disk, not in memory: the time of a sync is part of what is measured.
-class BenchFolder {
-public:
-    BenchFolder() {
-        std::string name = "/var/tmp/tarqen-bench-XXXXXX";
-        if (mkdtemp(name.data()) == nullptr) std::abort();
-        path_ = name;
-    }
-    ~BenchFolder() { std::filesystem::remove_all(path_); }
-    BenchFolder(const BenchFolder&) = delete;
-    BenchFolder& operator=(const BenchFolder&) = delete;
-    const std::string& path() const { return path_; }
-    void write(const std::string& name, const std::string& content) const {
-        std::ofstream(path_ + "/" + name, std::ios::binary) << content;
-    }
-
-private:
-    std::string path_;
-};
 
 /// Files whose syncs are left out.
 class Unsynced : public Files {
@@ -86,35 +66,6 @@ private:
     Files& disk_;
 };
 
-std::string callOf(int number) {
-    if (number % (kQsos / kMatches) == 7) return kWanted;
-    const std::string letters{static_cast<char>('A' + number % 26), static_cast<char>('A' + number / 26 % 26),
-                              static_cast<char>('A' + number / 676 % 26)};
-    return std::string(number % 2 == 0 ? "K" : "W") + std::to_string(number % 10) + letters;
-}
-
-std::string gridOf(int number) {
-    return {static_cast<char>('E' + number % 2),
-            static_cast<char>('M' + number / 2 % 2),
-            static_cast<char>('0' + number / 4 % 10),
-            static_cast<char>('0' + number / 40 % 10),
-            'j',
-            'k'};
-}
-
-std::string logContent() {
-    std::string content = "2007 ARRL Jan. VHF Sweepstakes\r\n" + qso::header("K3ABC", "1") + "\r\n";
-    const std::vector<std::string> bands{"50", "144", "222", "432"};
-    for (int number = 0; number < kQsos; ++number) {
-        const std::string& band = bands[static_cast<std::size_t>(number) % bands.size()];
-        content += qso::compose({band, "PH", "01/20/07", "1435", callOf(number), "FN20jk", gridOf(number),
-                                 number % 9 == 0 ? "1-" + band : "", "1"},
-                                false) +
-                   "\r\n";
-    }
-    return content;
-}
-
 std::string masterContent() {
     std::string content = "Made for a benchmark\r\n<EOH>\r\n";
     for (int number = 0; number < kStations; ++number) {
@@ -129,7 +80,7 @@ std::string masterContent() {
 struct Desk {
     explicit Desk(bool synced = true) : machine(choose(synced), out), program(machine.platform) {
         machine.attach(program.screen());
-        folder.write("bench.lgg", logContent());
+        folder.write("bench.lgg", logContent("1"));
         folder.write("tqn4k.adi", masterContent());
         Station& s = station();
         s.session.LogFileName = "bench.lgg";
@@ -188,7 +139,7 @@ void AcceptWithoutSync(benchmark::State& state) { accept(state, false); }
 
 void bareAppend(benchmark::State& state, bool synced) {
     const BenchFolder folder;
-    folder.write("bare.lgg", logContent());
+    folder.write("bare.lgg", logContent("1"));
     const std::string name = folder.path() + "/bare.lgg", line(66, 'x');
     for (auto _ : state) {
         const int file = open(name.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0666);

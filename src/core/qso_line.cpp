@@ -8,9 +8,14 @@ namespace qso {
 
 std::string_view band(std::string_view line) { return text::trim(text::columns(line, 1, 5)); }
 std::string_view mode(std::string_view line) { return text::columns(line, 7, 8); }
+std::string_view longMode(std::string_view line) { return text::trim(text::columns(line, 7, 9)); }
 std::string_view date(std::string_view line) { return text::columns(line, 11, 18); }
+std::string_view month(std::string_view line) { return text::columns(line, 11, 12); }
+std::string_view day(std::string_view line) { return text::columns(line, 14, 15); }
+std::string_view year(std::string_view line) { return text::columns(line, 17, 18); }
 std::string_view time(std::string_view line) { return text::columns(line, 21, 24); }
 std::string_view call(std::string_view line) { return text::trim(text::columns(line, 27, 38)); }
+std::string_view ownGrid(std::string_view line) { return text::trim(text::columns(line, 40, 45)); }
 std::string_view grid(std::string_view line) { return text::trim(text::columns(line, 47, 52)); }
 std::string_view square(std::string_view line) { return text::columns(line, 47, 50); }
 
@@ -18,6 +23,8 @@ bool isNewGrid(std::string_view line) {
     const std::string_view mark = text::columns(line, 54, 54);
     return !mark.empty() && mark != " ";
 }
+
+std::string_view newGridMark(std::string_view line) { return text::trim(text::columns(line, 54, 61)); }
 
 bool isDupe(std::string_view line) { return text::columns(line, 63, 63) == "0"; }
 

@@ -15,15 +15,24 @@ namespace qso {
 
 std::string_view band(std::string_view line);
 std::string_view mode(std::string_view line);
+/// The mode with the column behind it, trimmed, for a mode of three letters.
+std::string_view longMode(std::string_view line);
 /// MM/DD/YY.
 std::string_view date(std::string_view line);
+/// MM, DD and YY of the date.
+std::string_view month(std::string_view line);
+std::string_view day(std::string_view line);
+std::string_view year(std::string_view line);
 /// HHMM.
 std::string_view time(std::string_view line);
 std::string_view call(std::string_view line);
+std::string_view ownGrid(std::string_view line);
 std::string_view grid(std::string_view line);
 /// The first four characters of the worked grid as they stand, blanks and all.
 std::string_view square(std::string_view line);
 bool isNewGrid(std::string_view line);
+/// Ordinal, hyphen and band of a new grid, trimmed.
+std::string_view newGridMark(std::string_view line);
 /// A dupe has "0" in the points' first column; 10 points or more don't look like one.
 bool isDupe(std::string_view line);
 /// The points or whole kilometres as they stand in the six columns from 63 on.

@@ -13,6 +13,7 @@
 #include "core/entry_fields.h"
 #include "core/post_contest.h"
 #include "core/search.h"
+#include "export/exports.h"
 #include "setup/main_form.h"
 #include "setup/settings_on_screen.h"
 #include "setup/setup_fields.h"
@@ -171,6 +172,23 @@ void wireMenu(Station& s) {
     menu.mWriteDupes.onClick = runs(s, mWriteDupes_Click);
 }
 
+/// The reports that are written from the log; each gives the keyboard back to the call field, however it
+/// ends.
+void wireExports(Station& s) {
+    LogForm& form = s.forms.frmLog;
+    const auto answers = [&s, &form](forms::MenuItem& item, Routine routine) {
+        item.onClick = [&s, &form, routine] {
+            routine(s);
+            form.focus(form.CallS);
+        };
+    };
+    answers(form.menu.mCabrillo, mCabrillo_Click);
+    answers(form.menu.mnonARRL, mnonARRL_Click);
+    answers(form.menu.mWriteSum, mWriteSum_Click);
+    answers(form.menu.mWritegrids, mWritegrids_Click);
+    answers(form.menu.mADIF, mADIF_Click);
+}
+
 /// What no routine answers to yet stands in its place and can't be used.
 void disableWhatDoesNothing(Station& s) {
     LogForm& form = s.forms.frmLog;
@@ -195,6 +213,7 @@ void wireLogForm(Station& s) {
     wireEntry(s);
     wireLogWindow(s);
     wireMenu(s);
+    wireExports(s);
     disableWhatDoesNothing(s);
 }
 
