@@ -13,7 +13,10 @@
 
 std::string wholeLog(const Session& session) {
     std::string content;
-    for (int line = 1; line <= session.LogLineCount; ++line) content += session.LogLines(line) + kCrLf;
+    for (int line = 1; line <= session.LogLineCount; ++line) {
+        content += session.LogLines(line);
+        content += kCrLf;
+    }
     return content;
 }
 

@@ -34,11 +34,9 @@ constexpr std::array<BandText, 12> kBandTexts{{
 constexpr std::string_view kLight = " <freq:5>Laser";
 constexpr std::string_view kEnding = ".ADI";
 
-/// A field with the length of its value in its tag.
-void addField(std::string& file, std::string_view tag, std::string_view value) {
-    file += '<';
-    file += tag;
-    file += ':';
+/// A field with the length of its value in its tag. `opening` is the tag with its colon and what goes before.
+void addField(std::string& file, std::string_view opening, std::string_view value) {
+    file += opening;
     file += number::toText(static_cast<std::int64_t>(value.size()));
     file += '>';
     file += value;
@@ -81,15 +79,15 @@ std::string_view adifBand(std::string_view label, std::string_view before) {
 
 void addAdifRecord(std::string& file, std::string_view line, std::string_view& band) {
     band = adifBand(qso::band(line), band);
-    addField(file, "call", qso::call(line));
+    addField(file, "<call:", qso::call(line));
     file += " <qso_date:8:d>";
     file += fullYear(qso::year(line));
     file += qso::month(line);
     file += qso::day(line);
-    addField(file += ' ', "time_on", qso::time(line));
+    addField(file, " <time_on:", qso::time(line));
     file += band;
-    addField(file += ' ', "mode", adifMode(qso::longMode(line)));
-    addField(file += ' ', "gridsquare", qso::grid(line));
+    addField(file, " <mode:", adifMode(qso::longMode(line)));
+    addField(file, " <gridsquare:", qso::grid(line));
     file += " <eor>\r\n";
 }
 

@@ -76,9 +76,7 @@ void addUnmarkedBand(std::string& file, const Session& session, int band, int& c
 void BandGridList::add(std::string_view line) {
     ++qsos_;
     const std::string_view grid = text::trim(qso::square(line));
-    for (int number = 1; number <= grids_; ++number) {
-        if (entries_(number).grid == grid) return;
-    }
+    if (!seen_.insert(grid).second) return;
     entries_(grids_ + 1) = {grid, qso::call(line)};
     ++grids_;
 }

@@ -5,6 +5,7 @@
 
 #include <string>
 #include <string_view>
+#include <unordered_set>
 
 #include "core/session.h"
 
@@ -28,6 +29,7 @@ public:
 
 private:
     Table<GridWorked, 1, 400> entries_;
+    std::unordered_set<std::string_view> seen_;
     int qsos_ = 0, grids_ = 0;
 };
 

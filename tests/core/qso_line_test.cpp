@@ -57,6 +57,14 @@ TEST(QsoLine, CutsTextsThatAreTooLongForTheirColumns) {
 }
 
 TEST(QsoLine, IsReadByItsColumns) {
+    EXPECT_EQ(qso::month(kExampleLine), "01");
+    EXPECT_EQ(qso::day(kExampleLine), "22");
+    EXPECT_EQ(qso::year(kExampleLine), "07");
+    EXPECT_EQ(qso::longMode(kExampleLine), "PH");
+    EXPECT_EQ(qso::longMode("144   FT8"), "FT8");
+    EXPECT_EQ(qso::longMode("144   FT88"), "FT8");
+    EXPECT_EQ(qso::ownGrid(kExampleLine), "FN20ab");
+    EXPECT_EQ(qso::newGridMark(kExampleLine), "12-144");
     EXPECT_EQ(qso::band(kExampleLine), "144");
     EXPECT_EQ(qso::mode(kExampleLine), "PH");
     EXPECT_EQ(qso::date(kExampleLine), "01/22/07");
@@ -81,6 +89,12 @@ TEST(QsoLine, ReadsTheColumnsThatNeighboursDoNotTouch) {
     EXPECT_EQ(qso::grid(line), expected(47, 52));
     EXPECT_EQ(qso::square(line), expected(47, 50));
     EXPECT_EQ(qso::points(line), expected(63, 68));
+    EXPECT_EQ(qso::longMode(line), expected(7, 9));
+    EXPECT_EQ(qso::month(line), expected(11, 12));
+    EXPECT_EQ(qso::day(line), expected(14, 15));
+    EXPECT_EQ(qso::year(line), expected(17, 18));
+    EXPECT_EQ(qso::ownGrid(line), expected(40, 45));
+    EXPECT_EQ(qso::newGridMark(line), expected(54, 61));
 }
 
 TEST(QsoLine, ReadsBandCallAndGridWithoutTheBlanksAround) {

@@ -11,6 +11,7 @@
 #include <fstream>
 
 #include "desk.h"
+#include "shell/linux/posix_files.h"
 #include "shell/qt/qt_dialogs.h"
 #include "shell/qt/qt_programs.h"
 #include "shell/qt/station_folder.h"
@@ -130,9 +131,62 @@ TEST(StationFolder, AtHomeIsOneOfItsOwnWithTheSamples) {
     EXPECT_FALSE(fs::exists(made / "CKLIST.DAT"));
 }
 
-TEST(Programs, FileOfAnEditorIsKnown) {
-    EXPECT_EQ(editedFile("NOTEPAD.exe dupefile.txt"), "dupefile.txt");
-    EXPECT_EQ(editedFile("C:\\log\\EditPad.exe \"my log.lgg\""), "my log.lgg");
-    EXPECT_EQ(editedFile("XNOTEPAD.exe dupefile.txt"), "");
-    EXPECT_EQ(editedFile("PLAZAS.exe"), "");
+TEST(Programs, FileOfTheFirstViewerIsKnown) {
+    EXPECT_EQ(viewedFile("NOTEPAD.exe dupefile.txt"), "dupefile.txt");
+    EXPECT_EQ(viewedFile("C:\\log\\NotePad.exe \"my log.lgg\""), "my log.lgg");
+    EXPECT_EQ(viewedFile("/home/om/my logs\\NOTEPAD.exe W1ABC.log"), "W1ABC.log");
+    EXPECT_EQ(viewedFile("XNOTEPAD.exe dupefile.txt"), "");
+    EXPECT_EQ(viewedFile("PLAZAS.exe"), "");
+}
+
+TEST(Programs, SecondViewerNeverOpensTheFileOnceMore) {
+    EXPECT_EQ(viewedFile("EDITPAD.exe dupefile.txt"), "");
+    EXPECT_EQ(viewedFile("/home/om\\EDITPAD.exe W1ABC.log"), "");
+}
+
+namespace {
+
+/// A folder with a stand-in for the desktop's opener, which writes down what it is asked to open.
+class Opener : public testing::Test {
+protected:
+    Opener() {
+        write("xdg-open", "#!/bin/sh\nprintf %s \"$1\" >told.new\nmv told.new told\n");
+        fs::permissions(path() + "/xdg-open", fs::perms::owner_all);
+    }
+    std::string path() const { return folder.path().toStdString(); }
+    void write(const std::string& name, const std::string& text) const {
+        std::ofstream(path() + "/" + name) << text;
+    }
+    /// What was opened, once the opener has written it down.
+    std::string opened() const {
+        const fs::path told = path() + "/told";
+        for (int i = 0; i < 1000 && !fs::exists(told); ++i) QTest::qSleep(10);
+        std::ifstream in(told);
+        std::string text;
+        std::getline(in, text);
+        return text;
+    }
+    QTemporaryDir folder;
+    PosixFiles files{path()};
+    QtDialogs dialogs;
+    QtPrograms programs{path(), files, dialogs};
+};
+
+}  // namespace
+
+TEST_F(Opener, StandsInForTheFirstViewer) {
+    write("W1ABC.log", "START-OF-LOG: 3.0");
+    EXPECT_TRUE(programs.start(path() + "\\NOTEPAD.exe W1ABC.log"));
+    EXPECT_EQ(opened(), path() + "/W1ABC.log");
+    EXPECT_FALSE(programs.start(path() + "\\EDITPAD.exe W1ABC.log"));
+}
+
+TEST_F(Opener, FindsAnExportNamedWithoutItsEnding) {
+    write("MYLOG.ADI", "<eoh>");
+    EXPECT_TRUE(programs.start(path() + "\\NOTEPAD.exe mylog"));
+    EXPECT_EQ(opened(), path() + "/MYLOG.ADI");
+}
+
+TEST_F(Opener, IsNotAskedForAFileThatIsNotThere) {
+    EXPECT_FALSE(programs.start(path() + "\\NOTEPAD.exe missing.txt"));
 }

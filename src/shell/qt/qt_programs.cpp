@@ -7,23 +7,23 @@
 #include "base/text.h"
 #include "shell/qt/codec.h"
 
-std::string editedFile(const std::string& commandLine) {
+std::string viewedFile(const std::string& commandLine) {
+    const std::string viewer = "notepad.exe ";
     const std::string line = text::lower(commandLine);
-    for (const std::string editor : {"notepad.exe ", "editpad.exe "}) {
-        const std::size_t at = line.find(editor);
-        if (at == std::string::npos || (at > 0 && line[at - 1] != '\\' && line[at - 1] != '/')) continue;
-        std::string file(text::trim(commandLine.substr(at + editor.size())));
-        if (file.size() > 1 && file.front() == '"' && file.back() == '"')
-            file = file.substr(1, file.size() - 2);
-        return file;
-    }
-    return {};
+    const std::size_t at = line.find(viewer);
+    if (at == std::string::npos || (at > 0 && line[at - 1] != '\\' && line[at - 1] != '/')) return {};
+    std::string file(text::trim(commandLine.substr(at + viewer.size())));
+    if (file.size() > 1 && file.front() == '"' && file.back() == '"') file = file.substr(1, file.size() - 2);
+    return file;
 }
 
 bool QtPrograms::start(const std::string& commandLine) {
     if (starter_.start(commandLine)) return true;
-    const std::string file = editedFile(commandLine);
-    return !file.empty() && starter_.start("xdg-open \"" + files_.path(file) + "\"");
+    std::string file = viewedFile(commandLine);
+    if (file.empty()) return false;
+    // The export for other programs is named as the operator typed it, mostly without its ending.
+    if (!files_.exists(file)) file += ".adi";
+    return files_.exists(file) && starter_.start("xdg-open \"" + files_.path(file) + "\"");
 }
 
 void QtPrograms::help(const std::string& file, const std::string& topic) {

@@ -13,7 +13,8 @@ public:
     /// `folder` is the program's folder.
     QtPrograms(const std::string& folder, Files& files, Dialogs& dialogs)
         : starter_(folder), lock_(folder), files_(files), dialogs_(dialogs) {}
-    /// Where an editor that a command line names isn't there, the desktop's own one opens the file.
+    /// Where the first of the program's two viewers, NOTEPAD, isn't there, the desktop's own one opens the
+    /// file. The second is always asked for the same file, and must not open it once more.
     bool start(const std::string& commandLine) override;
     void help(const std::string& file, const std::string& topic) override;
     bool previousInstance() override { return lock_.heldByAnother(); }
@@ -25,5 +26,5 @@ private:
     Dialogs& dialogs_;
 };
 
-/// The file that a command line hands to one of the two editors; empty where it is another program's.
-std::string editedFile(const std::string& commandLine);
+/// The file that a command line hands to NOTEPAD; empty where it is another program's.
+std::string viewedFile(const std::string& commandLine);
