@@ -7,12 +7,17 @@
 #include <cstdlib>
 #include <string>
 
+#include "base/text.h"
 #include "contest/summary.h"
 #include "core/dupe_check.h"
 #include "core/log_file.h"
 #include "core/qso_line.h"
 #include "core/rate.h"
 #include "core/search.h"
+#include "export/adif.h"
+#include "export/cabrillo.h"
+#include "export/grid_list.h"
+#include "export/summary_sheet.h"
 
 namespace {
 
@@ -123,6 +128,20 @@ void readersGetThrough(Station& s) {
     CallSearch(s, "1");
 }
 
+/// Each line of the log is a line of the exports, whatever it holds.
+void exportsGetThrough(const Station& s) {
+    constexpr std::size_t kCabrilloHead = 17, kAdifHead = 11;
+    const Session& session = s.session;
+    const auto qsos = static_cast<std::size_t>(std::max(0, session.LogLineCount - 2));
+    const std::string score = s.forms.frmLog.tScore.caption();
+    must(text::lines(exporting::cabrilloFile(session, s.PersonalData, score)).size() ==
+         kCabrilloHead + qsos + 1);
+    must(text::lines(exporting::adifFile(session, {})).size() == kAdifHead + qsos);
+    must(!exporting::summarySheet(session, s.PersonalData, "01/20/07").empty());
+    std::string grids;
+    exporting::addGridList(grids, session, "");
+}
+
 }  // namespace
 
 // The name and the signature are libFuzzer's.
@@ -133,6 +152,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     loadsTheSame(desk);
     try {
         readersGetThrough(desk.station);
+        exportsGetThrough(desk.station);
         RefreshLogCount(desk.station);
     } catch (const RunTimeError&) {
         // Figures beyond their width end a routine in order.
