@@ -20,12 +20,6 @@ bool isUpperAccent(unsigned char c) { return c >= 0xC0 && c <= 0xDE && c != 0xD7
 
 }  // namespace
 
-std::string_view columns(std::string_view line, int first, int last) {
-    const std::size_t start = offset(first);
-    if (start >= line.size() || last < first) return {};
-    return line.substr(start, static_cast<std::size_t>(last) - start);
-}
-
 std::string_view from(std::string_view line, int first) {
     const std::size_t start = offset(first);
     return start >= line.size() ? std::string_view{} : line.substr(start);
@@ -38,18 +32,6 @@ std::string_view right(std::string_view line, int count) {
     const auto wanted = static_cast<std::size_t>(count);
     return wanted >= line.size() ? line : line.substr(line.size() - wanted);
 }
-
-std::string_view trimLeft(std::string_view line) {
-    const std::size_t start = line.find_first_not_of(' ');
-    return start == std::string_view::npos ? std::string_view{} : line.substr(start);
-}
-
-std::string_view trimRight(std::string_view line) {
-    const std::size_t end = line.find_last_not_of(' ');
-    return end == std::string_view::npos ? std::string_view{} : line.substr(0, end + 1);
-}
-
-std::string_view trim(std::string_view line) { return trimLeft(trimRight(line)); }
 
 std::string pad(std::string_view value, int width) {
     std::string padded(left(value, width));

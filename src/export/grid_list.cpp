@@ -14,20 +14,14 @@ constexpr std::string_view kDots = " . . . . . . .";
 
 void addEmptyLine(std::string& file) { PrintLine(file).end(); }
 
-template <typename Routine>
-void eachLineOfBand(const Session& session, int band, Routine&& routine) {
-    for (int number = kFirstQsoLine; number <= session.LogLineCount; ++number) {
-        const std::string& line = session.LogLines(number);
-        if (qso::band(line) == session.BandName(band)) routine(line);
-    }
-}
-
 void addMarkedBand(std::string& file, const Session& session, int band) {
     addEmptyLine(file);
     PrintLine(file).at(5, session.BandName(band)).then(" MHz").at(18, "Grid").at(36, "# New Grids").end();
     addEmptyLine(file);
-    eachLineOfBand(session, band, [&](const std::string& line) {
-        if (!qso::isNewGrid(line)) return;
+    for (int number = kFirstQsoLine; number <= session.LogLineCount; ++number) {
+        const std::string& line = session.LogLines(number);
+        // Most lines have no mark, which is the quicker one to see.
+        if (!qso::isNewGrid(line) || qso::band(line) != session.BandName(band)) continue;
         PrintLine(file)
             .at(5, qso::call(line))
             .at(18, qso::square(line))
@@ -35,7 +29,7 @@ void addMarkedBand(std::string& file, const Session& session, int band) {
             .at(36, "  ")
             .then(qso::newGridMark(line))
             .end();
-    });
+    }
     addEmptyLine(file);
     PrintLine(file)
         .at(5, "Total QSOs = ")
@@ -52,7 +46,10 @@ void addUnmarkedBand(std::string& file, const Session& session, int band, int& c
     PrintLine(file).at(5, session.BandName(band)).then(" MHz").at(18, "Grid").end();
     addEmptyLine(file);
     BandGridList list;
-    eachLineOfBand(session, band, [&](const std::string& line) { list.add(line); });
+    for (int number = kFirstQsoLine; number <= session.LogLineCount; ++number) {
+        const std::string& line = session.LogLines(number);
+        if (qso::band(line) == session.BandName(band)) list.add(line);
+    }
     for (int number = 1; number <= list.grids(); ++number) {
         PrintLine(file)
             .at(5, list.entry(number).call)
