@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <tuple>
 
 #include "base/number.h"
 #include "base/text.h"
@@ -84,7 +85,22 @@ namespace {
 class RandomSession : public testing::TestWithParam<unsigned> {
 protected:
     const ContestEntry& entry() const { return playedContests()[GetParam() % playedContests().size()]; }
-    bool ordinary() const { return !scoresByDistance(entry().number); }
+    Desk desk;
+};
+
+/// The contests in which points are multiplied by grids: kilometres have no product.
+std::vector<int> contestsOfGrids() {
+    std::vector<int> numbers;
+    for (const ContestEntry& entry : playedContests()) {
+        if (!scoresByDistance(entry.number)) numbers.push_back(entry.number);
+    }
+    return numbers;
+}
+
+class RandomSessionOfGrids : public testing::TestWithParam<std::tuple<int, unsigned>> {
+protected:
+    const ContestEntry& entry() const { return playedContest(std::get<0>(GetParam())); }
+    unsigned seed() const { return std::get<1>(GetParam()); }
     Desk desk;
 };
 
@@ -122,16 +138,15 @@ TEST_P(RandomSession, DeletingTheLastContactAndEnteringItAgainGivesTheSameFile) 
     EXPECT_EQ(Counts(desk.session()).values, kept.values);
 }
 
-TEST_P(RandomSession, TheScoreIsTheProductOfTheSumsWhateverTheOrder) {
-    if (!ordinary()) GTEST_SKIP() << "kilometres have no product";
-    TypedContest contest(*desk.station, entry(), 3000 + GetParam());
+TEST_P(RandomSessionOfGrids, TheScoreIsTheProductOfTheSumsWhateverTheOrder) {
+    TypedContest contest(*desk.station, entry(), 3000 + seed());
     ASSERT_TRUE(contest.play(30)) << desk.station->reason();
     const Session& session = desk.session();
     EXPECT_EQ(session.TotalScore,
               static_cast<float>(static_cast<int>(session.TotalQSOPoints) * session.GridTotal));
     const float total = session.TotalScore;
     std::vector<std::string> lines = text::lines(desk.folder.read("JAN.lgg"));
-    std::mt19937 random(GetParam());
+    std::mt19937 random(seed());
     std::shuffle(lines.begin() + 2, lines.end(), random);
     std::string shuffled;
     for (const std::string& line : lines) shuffled += line + "\r\n";
@@ -141,3 +156,5 @@ TEST_P(RandomSession, TheScoreIsTheProductOfTheSumsWhateverTheOrder) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomSession, testing::Range(0U, 26U));
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomSessionOfGrids,
+                         testing::Combine(testing::ValuesIn(contestsOfGrids()), testing::Range(0U, 2U)));

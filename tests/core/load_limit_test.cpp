@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A log of 2500 QSOs loads whole; what is beyond is told and left alone.
+// A log of 2500 QSOs loads whole; what is beyond is told and left alone. Entry goes on until memory is full.
 #include <gtest/gtest.h>
 
 #include "base/text.h"
@@ -77,4 +77,40 @@ TEST_F(Limit, TheLastQsoOfAFullLogIsDeleted) {
     ASSERT_TRUE(station.play("reply OK\ntype dl\nkey Enter\n")) << station.reason();
     EXPECT_EQ(folder.read("JAN.lgg"), logOf(2499));
     EXPECT_EQ(folder.read("JAN.bu1"), logOf(2500));
+}
+
+namespace {
+
+/// The keys of one contact with a station that no loaded log holds.
+std::string keysOfNewStation(int number) {
+    return "type k" + std::to_string(number % 10) + "a" + static_cast<char>('a' + number / 10 % 26) +
+           static_cast<char>('a' + number / 260) + "\nkey Space\ntype fn42\nkey Enter\nkey Enter\n";
+}
+
+}  // namespace
+
+TEST_F(Limit, EntryGoesOnToTheLastLineOfMemoryAndEndsBeyond) {
+    load(2500);
+    std::string keys;
+    for (int number = 0; number < 499; ++number) keys += keysOfNewStation(number);
+    ASSERT_TRUE(station.play(keys)) << station.reason();
+    EXPECT_EQ(station.transcript(), "");
+    ASSERT_EQ(station.station().session.LogLineCount, 3001);
+    const std::string full = folder.read("JAN.lgg");
+    EXPECT_EQ(text::lines(full).size(), 3001u);
+    ASSERT_TRUE(station.play(keysOfNewStation(499))) << station.reason();
+    EXPECT_EQ(station.transcript(), "error \"Subscript out of range\"\nend\n");
+    EXPECT_TRUE(station.ended());
+    EXPECT_EQ(folder.read("JAN.lgg"), full) << "nothing of the QSO too many is in the file";
+}
+
+TEST_F(Limit, ALogWindowThatCannotBeFilledIsToldAndEndsTheProgram) {
+    load(1);
+    station.station().session.LogLineCount = 3002;
+    ASSERT_TRUE(station.play("click frmLog.LogWindow\n")) << station.reason();
+    EXPECT_EQ(station.transcript(),
+              R"(message "Check the .LGG file format...\n    Is it a TARQEN v2.0 or higher log file ?")"
+              " title \"\" icon exclamation buttons OK default OK -> OK (unasked)\nend\n");
+    EXPECT_TRUE(station.ended());
+    EXPECT_EQ(folder.read("JAN.lgg"), logOf(1));
 }
