@@ -105,13 +105,15 @@ void enterCall(Station& s) {
         form.focus(form.CallS);
         return;
     }
+    const bool gridKnown = !form.tGrid.text().empty();
     if (form.CallS.text().size() < 6 && form.partial3D.checked() && s.session.LookupHit == 0) {
         const std::string call = form.CallS.text();
         PartialSearch(s);
         // Keys run during the long search; an Esc there has taken the entry back.
         if (form.CallS.text() != call) return;
     }
-    if (!form.tGrid.text().empty()) {
+    // A grid that the operator began to type during the search is not yet one.
+    if (gridKnown) {
         s.session.GridEntered = true;
         QueryState(s);
         if (!autoAccept(s)) return;
