@@ -113,10 +113,11 @@ TEST(CabrilloOperators, OwnCallLosesASuffixOfOneCharacter) {
     struct Case {
         const char *call, *operators;
     };
-    const Case cases[] = {
-        {"W1ABC", "W1ABC"},           {"W1ABC-R", "W1ABC"},           {"W1ABC_P", "W1ABC"},
-        {"W1ABC-QR", "W1ABC/QR"},     {"W1ABC-", "W1ABC/"},           {"W1ABC/R", "W1ABC/R"},
-        {"VE3-W1ABC_R", "VE3/W1ABC"}, {"VE3-W1ABC-R", "VE3/W1ABC-R"}, {"", ""}};
+    const Case cases[] = {{"W1ABC", "W1ABC"},           {"W1ABC-R", "W1ABC"},
+                          {"W1ABC_P", "W1ABC"},         {"W1ABC-QR", "W1ABC/QR"},
+                          {"W1ABC-", "W1ABC/"},         {"W1ABC/R", "W1ABC/R"},
+                          {"VE3-W1ABC_R", "VE3/W1ABC"}, {"VE3-W1ABC-R", "VE3/W1ABC-R"},
+                          {"VE3_W1ABC-R", "VE3/W1ABC"}, {"", ""}};
     for (const auto& [call, operators] : cases) {
         Personal data = station();
         data(personal::Call) = call;
