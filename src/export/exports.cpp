@@ -19,6 +19,12 @@ std::string nameByCall(const Station& s, const char* ending) {
     return s.PersonalData(personal::Call) + ending;
 }
 
+/// A call with a slash is no file name, not even where a folder bears the part before it.
+void writeByCall(Station& s, const std::string& name, const std::function<void(std::string&)>& compose) {
+    if (name.find_first_of("/\\") != std::string::npos) throw badCallError();
+    exporting::writeReport(s, name, compose);
+}
+
 /// MM/DD/YYYY of the system.
 std::string longDate(Station& s) {
     const DateTime today = s.platform.clock.local();
@@ -37,7 +43,7 @@ void mCabrillo_Click(Station& s) {
     if (exporting::isRover(s.PersonalData(personal::OperatorCategory))) return;
     const std::string name = nameByCall(s, ".log");
     try {
-        exporting::writeReport(s, name, [&](std::string& file) {
+        writeByCall(s, name, [&](std::string& file) {
             file = exporting::cabrilloFile(s.session, s.PersonalData, s.forms.frmLog.tScore.caption());
         });
     } catch (const RunTimeError&) {
@@ -50,7 +56,7 @@ void mCabrillo_Click(Station& s) {
 void mnonARRL_Click(Station& s) {
     const std::string name = nameByCall(s, ".log");
     try {
-        exporting::writeReport(s, name, [&](std::string& file) { file = wholeLog(s.session); });
+        writeByCall(s, name, [&](std::string& file) { file = wholeLog(s.session); });
     } catch (const RunTimeError&) {
         return;
     }
@@ -62,7 +68,7 @@ void mWriteSum_Click(Station& s) {
     const std::string name = nameByCall(s, ".sum");
     try {
         const exporting::Hourglass hourglass(s);
-        exporting::writeReport(s, name, [&](std::string& file) {
+        writeByCall(s, name, [&](std::string& file) {
             if (session.ContestNumber != "19")
                 session.TotalScore =
                     static_cast<float>(std::int64_t{session.TotalQSOPoints} * session.GridTotal);

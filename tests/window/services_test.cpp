@@ -94,6 +94,18 @@ TEST_F(Boxes, PromptOffersItsTextSelected) {
     EXPECT_EQ(dialogs.prompt({"Enter Alarm Time", "UTC Alarm Set", "1435"}), std::nullopt);
 }
 
+TEST_F(Boxes, HourglassIsThePointerUntilItIsTakenBackOnce) {
+    ASSERT_EQ(QApplication::overrideCursor(), nullptr);
+    dialogs.pointer(Pointer::Hourglass);
+    dialogs.pointer(Pointer::Hourglass);
+    ASSERT_NE(QApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    dialogs.pointer(Pointer::Normal);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    dialogs.pointer(Pointer::Normal);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
 TEST_F(Boxes, TimersWaitWhileOneIsOpen) {
     int ticks = 0;
     LogForm& log = desk.forms.frmLog;
