@@ -17,6 +17,8 @@ using Colour = int;
 constexpr Colour kDefaultColour = -1;
 constexpr Colour kBlack = 0;
 constexpr Colour kRed = 255;
+/// The light ground of a choice that is on.
+constexpr Colour kLight = 16777088;
 constexpr Colour rgb(int red, int green, int blue) { return red + 256 * green + 65536 * blue; }
 
 /// What of a control has changed, for the one who mirrors it.

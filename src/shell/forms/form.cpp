@@ -141,8 +141,12 @@ void Form::press(KeyStroke stroke) {
     if (stroke.swallowed) return;
     if (stroke.key == Key::Tab || stroke.key == Key::BackTab) return tab(stroke.key == Key::Tab);
     Control* const target = focused_;
-    if (target == nullptr) return;
     KeyPress pressed{codeOf(stroke)};
+    if (pressed.code != 0 && onKeyPress) {
+        onKeyPress(pressed);
+        if (pressed.swallowed) return;
+    }
+    if (target == nullptr) return;
     if (pressed.code != 0 && target->onKeyPress) {
         target->onKeyPress(pressed);
         if (pressed.swallowed) return;

@@ -34,6 +34,10 @@ public:
     double fontSize() const { return fontSize_; }
     void setFontSize(double points) { fontSize_ = points; }
 
+    /// The distance from the upper edge of the screen in twips; 0 leaves it to the desktop.
+    int top() const { return top_; }
+    void setTop(int twips) { top_ = twips; }
+
     /// Runs onLoad, once until the form is unloaded.
     void load();
     /// Loads the form where that is still to be done, then shows it in front of the others.
@@ -58,11 +62,15 @@ public:
     /// Called when the form comes to the front: a form without a focus gives it to its first field.
     void activate();
 
-    /// The road of a key: onKeyDown, then the focused control's onKeyPress, then its default action.
+    /// The road of a key: onKeyDown, then, of a key with a character, onKeyPress of the form and of the
+    /// control with the focus, then that control's default action.
     void press(KeyStroke stroke);
 
     std::function<void()> onLoad, onUnload, onClick, onRightClick, onActivate;
+    /// Another form has come to the front, or this one is hidden.
+    std::function<void()> onDeactivate;
     std::function<void(KeyStroke&)> onKeyDown;
+    std::function<void(KeyPress&)> onKeyPress;
     /// Set the argument to true to keep the window open.
     std::function<void(bool&)> onQueryClose;
     /// The one who mirrors the form: called on show, hide and a new caption, and when the focus has moved.
@@ -81,6 +89,7 @@ private:
     Control* focused_ = nullptr;
     Control* home_ = nullptr;
     bool visible_ = false, loaded_ = false;
+    int top_ = 0;
     Colour backColour_ = kDefaultColour;
     double fontSize_ = 8.25;
 };

@@ -14,21 +14,27 @@ Form* Screen::find(std::string_view name) const {
 
 void Screen::bringToFront(Form& form) {
     if (!form.visible()) return;
-    if (active() != &form) {
+    Form* const before = active();
+    if (before != &form) {
         order_.erase(std::remove(order_.begin(), order_.end(), &form), order_.end());
         order_.push_back(&form);
+        if (before) Control::raise(before->onDeactivate);
     }
     form.activate();
 }
 
 void Screen::formShown(Form& form) {
+    Form* const before = active();
     order_.push_back(&form);
     if (onShown) onShown(form);
+    if (before) Control::raise(before->onDeactivate);
 }
 
 void Screen::formHidden(Form& form) {
+    const bool wasActive = active() == &form;
     order_.erase(std::remove(order_.begin(), order_.end(), &form), order_.end());
     if (onHidden) onHidden(form);
+    if (wasActive) Control::raise(form.onDeactivate);
 }
 
 bool Screen::dispatch(const std::function<void()>& event) {
