@@ -70,9 +70,32 @@ class NoPrograms : public Programs {
 
 class NoWindows : public Windows {
     void pump() override {}
+    void rest() override {}
     void saveSize(const std::string&) override {}
     void restoreSize(const std::string&) override {}
     void popUp(const std::string&, const std::string&) override {}
+};
+
+class NoPorts : public Ports {
+    void write(int, int) override {}
+    int read(int) override { return 0; }
+    void reach(int) override {}
+    void commIsAt(int) override {}
+    void openComm(const std::string&) override {}
+    void closeComm() override {}
+    bool commOpen() override { return false; }
+    void setDtr(bool) override {}
+    void setRts(bool) override {}
+    bool dsrHolding() override { return false; }
+    std::vector<std::string> commPorts() override { return {}; }
+    void dropLines() override {}
+};
+
+class NoDelay : public Delay {
+    void begin() override {}
+    void end() override {}
+    void wait(std::int64_t) override {}
+    void settle() override {}
 };
 
 struct Desk {
@@ -83,7 +106,9 @@ struct Desk {
     StandingClock clock;
     NoPrograms programs;
     NoWindows windows;
-    Platform platform{clock, dialogs, files, programs, windows};
+    NoPorts ports;
+    NoDelay delay;
+    Platform platform{clock, dialogs, files, programs, windows, ports, delay};
     Station station{platform};
 };
 

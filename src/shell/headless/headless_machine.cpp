@@ -10,7 +10,9 @@ HeadlessMachine::HeadlessMachine(Files& folder, std::ostream& out)
       files(disk, faults),
       programs(transcript, faults),
       windows(clock),
-      platform{clock, dialogs, files, programs, windows} {}
+      ports(transcript, hardware, faults),
+      delay(transcript, hardware, clock),
+      platform{clock, dialogs, files, programs, windows, ports, delay} {}
 
 void HeadlessMachine::attach(forms::Screen& screen) {
     dialogs.attach(screen);

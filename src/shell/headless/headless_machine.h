@@ -12,6 +12,7 @@
 #include "shell/headless/headless_clock.h"
 #include "shell/headless/headless_dialogs.h"
 #include "shell/headless/headless_files.h"
+#include "shell/headless/headless_ports.h"
 #include "shell/headless/headless_programs.h"
 #include "shell/headless/headless_windows.h"
 #include "shell/headless/transcript.h"
@@ -34,5 +35,7 @@ struct HeadlessMachine {
     HeadlessFiles files;
     HeadlessPrograms programs;
     HeadlessWindows windows;
+    HeadlessPorts ports;
+    HeadlessDelay delay;
     Platform platform;
 };

@@ -28,6 +28,8 @@ public:
     std::function<void(const Queued&)> onQueued;
 
     void pump() override;
+    /// Time passes in the pump alone.
+    void rest() override {}
     void saveSize(const std::string&) override {}
     void restoreSize(const std::string&) override {}
     void popUp(const std::string& form, const std::string& menu) override;

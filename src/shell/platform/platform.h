@@ -5,8 +5,10 @@
 #pragma once
 
 #include "shell/platform/clock.h"
+#include "shell/platform/delay.h"
 #include "shell/platform/dialogs.h"
 #include "shell/platform/files.h"
+#include "shell/platform/ports.h"
 #include "shell/platform/programs.h"
 #include "shell/platform/windows.h"
 
@@ -16,4 +18,6 @@ struct Platform {
     Files& files;
     Programs& programs;
     Windows& windows;
+    Ports& ports;
+    Delay& delay;
 };

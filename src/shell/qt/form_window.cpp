@@ -13,6 +13,9 @@
 
 namespace {
 
+/// On a screen of 96 dots an inch.
+constexpr int kTwipsPerPixel = 15;
+
 /// Names of widgets that stand for no control begin so.
 constexpr auto kDecoration = "deco";
 
@@ -114,6 +117,7 @@ void FormWindow::centre() {
     window_->resize(window_->size().boundedTo(room.size()));
     QRect place = window_->geometry();
     place.moveCenter(room.center() - QPoint(0, window_->property("aboveCentre").toInt()));
+    if (form_.top() > 0) place.moveTop(room.top() + form_.top() / kTwipsPerPixel);
     window_->move(place.topLeft());
 }
 

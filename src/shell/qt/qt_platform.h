@@ -4,12 +4,15 @@
 // the windows.
 #pragma once
 
+#include "shell/linux/linux_ports.h"
 #include "shell/linux/posix_files.h"
+#include "shell/linux/steady_delay.h"
 #include "shell/platform/platform.h"
 #include "shell/qt/qt_clock.h"
 #include "shell/qt/qt_dialogs.h"
 #include "shell/qt/qt_programs.h"
 #include "shell/qt/qt_windows.h"
+#include "shell/qt/serial_list.h"
 
 class QtPlatform {
 public:
@@ -28,5 +31,7 @@ private:
     PosixFiles files_;
     QtPrograms programs_;
     QtWindows windows_;
-    Platform platform_{clock_, dialogs_, files_, programs_, windows_};
+    LinuxPorts ports_{serialPorts};
+    SteadyDelay delay_;
+    Platform platform_{clock_, dialogs_, files_, programs_, windows_, ports_, delay_};
 };

@@ -2,6 +2,7 @@
 #include "shell/qt/qt_windows.h"
 
 #include <QCoreApplication>
+#include <QThread>
 
 #include "shell/qt/codec.h"
 #include "shell/qt/qt_dialogs.h"
@@ -18,6 +19,8 @@ void QtWindows::pump() {
     front_->runTimers();
     front_->screen().endIfEnded();
 }
+
+void QtWindows::rest() { QThread::msleep(10); }
 
 void QtWindows::saveSize(const std::string& form) {
     const FormWindow* const window = front_ ? front_->find(form) : nullptr;

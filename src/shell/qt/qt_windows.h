@@ -12,6 +12,7 @@ class QtWindows : public Windows {
 public:
     void attach(WindowsFront* front) { front_ = front; }
     void pump() override;
+    void rest() override;
     void saveSize(const std::string& form) override;
     void restoreSize(const std::string& form) override;
     void popUp(const std::string& form, const std::string& menu) override;

@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: MIT
+#include "shell/linux/linux_ports.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <fstream>
+
+namespace {
+
+constexpr std::array<int, 4> kUartBases{1016, 760, 1000, 744};
+constexpr std::array<int, 3> kLptBases{888, 632, 956};
+constexpr int kUartRegisters = 7, kLptRegisters = 3;
+constexpr int kFirstUsbPort = 5, kMostParallelPorts = 8;
+
+template <std::size_t count>
+std::optional<int> placeOf(const std::array<int, count>& bases, int base) {
+    const auto at = std::find(bases.begin(), bases.end(), base);
+    return at == bases.end() ? std::nullopt : std::optional(static_cast<int>(at - bases.begin()));
+}
+
+/// The base of a block of registers that an address lies in, of those that every machine has in one place.
+template <std::size_t count>
+std::optional<int> baseIn(const std::array<int, count>& bases, int registers, int address) {
+    for (const int base : bases) {
+        if (address >= base && address < base + registers) return base;
+    }
+    return std::nullopt;
+}
+
+/// The parallel port that the kernel has found at a base address.
+std::optional<int> parportAt(int base) {
+    for (int number = 0; number < kMostParallelPorts; ++number) {
+        std::ifstream file("/proc/sys/dev/parport/parport" + std::to_string(number) + "/base-addr");
+        int found = 0;
+        // An address beyond 32767 stands here without its sign.
+        if (file >> found && static_cast<short>(found) == static_cast<short>(base)) return number;
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::string commPath(const std::string& port) {
+    if (!port.empty() && port.front() == '/') return port;
+    int number = 0;
+    std::from_chars(port.data(), port.data() + port.size(), number);
+    if (number < 1) throw PortError("There is no port " + port + ".");
+    return number < kFirstUsbPort ? "/dev/ttyS" + std::to_string(number - 1)
+                                  : "/dev/ttyUSB" + std::to_string(number - kFirstUsbPort);
+}
+
+LinuxPorts::Bound* LinuxPorts::boundAt(int address) {
+    const auto at = std::find_if(bound_.begin(), bound_.end(), [address](const Bound& bound) {
+        return address >= bound.base && address <= bound.last;
+    });
+    return at == bound_.end() ? nullptr : &*at;
+}
+
+LinuxPorts::Bound& LinuxPorts::bind(int address) {
+    if (Bound* const known = boundAt(address)) return *known;
+    Bound bound;
+    if (const auto uart = baseIn(kUartBases, kUartRegisters, address)) {
+        bound = {*uart, *uart + kUartRegisters - 1, nullptr};
+    } else if (commBase_ && address >= *commBase_ && address < *commBase_ + kUartRegisters) {
+        bound = {*commBase_, *commBase_ + kUartRegisters - 1, comm_};
+    } else {
+        // The registers of a parallel port at an address of its own are written from the base up.
+        const int base = baseIn(kLptBases, kLptRegisters, address).value_or(address);
+        bound = {base, base + kLptRegisters - 1, nullptr};
+    }
+    bound_.push_back(bound);
+    return bound_.back();
+}
+
+std::string LinuxPorts::lptPath(int base) {
+    if (const auto number = parportAt(base)) return "/dev/parport" + std::to_string(*number);
+    if (const auto place = placeOf(kLptBases, base)) return "/dev/parport" + std::to_string(*place);
+    auto at = std::find(otherLpts_.begin(), otherLpts_.end(), base);
+    if (at == otherLpts_.end()) at = otherLpts_.insert(otherLpts_.end(), base);
+    return "/dev/parport" +
+           std::to_string(static_cast<int>(kLptBases.size()) + static_cast<int>(at - otherLpts_.begin()));
+}
+
+std::shared_ptr<SerialLines> LinuxPorts::openSerial(const std::string& path) {
+    if (comm_ && comm_->path() == path) return comm_;
+    for (const Bound& bound : bound_) {
+        if (bound.device && bound.device->path() == path) {
+            if (auto lines = std::dynamic_pointer_cast<SerialLines>(bound.device)) return lines;
+        }
+    }
+    return std::make_shared<SerialLines>(path);
+}
+
+std::shared_ptr<PortDevice> LinuxPorts::open(const Bound& bound) {
+    if (const auto uart = placeOf(kUartBases, bound.base))
+        return openSerial("/dev/ttyS" + std::to_string(*uart));
+    if (commBase_ == bound.base) return comm_;
+    return std::make_shared<ParallelLines>(lptPath(bound.base));
+}
+
+LinuxPorts::Bound* LinuxPorts::reached(int address) {
+    if (Bound* const known = boundAt(address)) return known;
+    Bound& bound = bind(address);
+    try {
+        bound.device = open(bound);
+    } catch (const PortError&) {
+        bound.device = nullptr;
+    }
+    return &bound;
+}
+
+void LinuxPorts::write(int address, int byte) {
+    const Bound* const bound = reached(address);
+    if (bound->device) bound->device->write(address - bound->base, byte);
+}
+
+int LinuxPorts::read(int address) {
+    const Bound* const bound = reached(address);
+    return bound->device ? bound->device->read(address - bound->base) : 0;
+}
+
+void LinuxPorts::reach(int address) {
+    Bound& bound = bind(address);
+    if (!bound.device) bound.device = open(bound);
+}
+
+void LinuxPorts::commIsAt(int base) {
+    if (placeOf(kUartBases, base) || commBase_ == base) return;
+    commBase_ = base;
+    std::erase_if(bound_, [base](const Bound& bound) {
+        return bound.base < base + kUartRegisters && bound.last >= base;
+    });
+}
+
+void LinuxPorts::openComm(const std::string& port) {
+    closeComm();
+    comm_ = openSerial(commPath(port));
+    const std::string path = comm_->path();
+    for (Bound& bound : bound_) {
+        const auto uart = placeOf(kUartBases, bound.base);
+        const bool same = uart && path == "/dev/ttyS" + std::to_string(*uart);
+        if (same || commBase_ == bound.base) bound.device = comm_;
+    }
+}
+
+void LinuxPorts::closeComm() {
+    if (!comm_) return;
+    comm_->dropLines();
+    for (Bound& bound : bound_) {
+        if (bound.device == comm_) bound.device = nullptr;
+    }
+    comm_ = nullptr;
+}
+
+void LinuxPorts::setDtr(bool on) {
+    if (comm_) comm_->setDtr(on);
+}
+
+void LinuxPorts::setRts(bool on) {
+    if (comm_) comm_->setRts(on);
+}
+
+bool LinuxPorts::dsrHolding() { return comm_ && comm_->dsrHolding(); }
+
+void LinuxPorts::dropLines() {
+    if (comm_) comm_->dropLines();
+    for (const Bound& bound : bound_) {
+        if (bound.device) bound.device->dropLines();
+    }
+}
