@@ -125,7 +125,9 @@ Found markedText(Station& s, const std::string& text) {
 
 void setSpeed(Station& s, std::string_view figures) {
     const double speed = number::valueOf(figures);
-    if (speed <= 60) s.session.CWSpeed = static_cast<int>(speed);
+    if (speed > 60) return;
+    s.session.CWSpeed = static_cast<int>(speed);
+    s.forms.CWSetup.Label15.setCaption(number::toText(std::int64_t{s.session.CWSpeed}));
 }
 
 Found twoCharacterCommand(Station& s, const std::string& text) {

@@ -199,6 +199,8 @@ void ResetQSO(Station& s) {
     form.tGrid.setText("");
     form.focus(form.CallS);
     form.Timer6.stop();
+    s.session.TXActive = 0;
+    s.session.CWCancel = 1;
     form.QSummary.clear();
     form.QSummary.hide();
     form.cmdQSum.setChecked(false);

@@ -3,6 +3,7 @@
 
 #include "core/accept_prompt.h"
 #include "core/qso_line.h"
+#include "keyer/cw_setup.h"
 
 namespace {
 
@@ -63,7 +64,7 @@ void mPost_Click(Station& s) {
     setAcceptMode(s, kAutoAccept);
     s.ControlValues(setting::Cw) = "no CW";
     s.ControlValues(setting::Dvk) = "no DVK";
-    switchOff(form.cmdCkOK);
+    showCwSwitch(s);
     switchOff(form.cmdDVK);
     form.DVKStatus.hide();
     form.focus(form.CallS);

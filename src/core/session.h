@@ -80,10 +80,39 @@ struct Session {
     Int16 SixDigitCount;
     std::string RecipGrid;
     std::string IFOffsetDummy;
-    Int16 CWSpeed = 20;
     Int16 PageTotal;
     Int16 SelectedMap;
     std::string PopUpTopic;
+
+    /// Words a minute.
+    Int16 CWSpeed = 20;
+    float CWWeight = 1.1F;
+    Int32 CWLoopConstant = 2000;
+    Int32 CWCalibration = 500;
+    /// What is still to go; its first character goes next.
+    std::string CWBuffer;
+    std::string CWMessageKey;
+    /// 1 asks the running send to stop at the next character.
+    Int16 CWCancel;
+    /// -1 while a transmission is in hand.
     Int16 TXActive;
-    bool CWCancel = false;
+    Table<std::string, 0, 60> MorseTable;
+    std::string CWConfigFile;
+    std::string F1Message, F3Message, F4Message, F6Message, F7Message;
+    /// Exactly one of the two is 1: keyboard or the rest of the message behind a call.
+    Int16 F1CallKeyboard = 1;
+    Int16 F1CallNormal;
+    Int16 KeyTimingReady;
+    /// -1 while the keyboard's loop sends: keys that come then only add to the buffer.
+    Int16 KeyDrainRunning;
+
+    Int16 PortByte;
+    Int16 KeyDownByte;
+    Int16 KeyUpByte;
+    Int16 PTTByte;
+    Int16 PortAddress;
+    Int16 LPTAddress;
+    /// 1 to 4 for a serial port of the machine, 5 for the other port.
+    Int16 COMPortIndex = 1;
+    Int16 PTTEnabled;
 };

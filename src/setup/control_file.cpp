@@ -2,6 +2,7 @@
 #include "setup/control_file.h"
 
 #include "core/say.h"
+#include "keyer/port_settings.h"
 #include "setup/control_text.h"
 
 namespace {
@@ -14,6 +15,15 @@ std::int64_t lengthOfFile(Station& s) {
     const std::int64_t length = file->length();
     file->close();
     return length;
+}
+
+/// What the forms of the port show goes there as it is read, so the order of the file tells.
+void showPortSetting(Station& s, int setting) {
+    PortForm& form = s.forms.ConfigScrn;
+    if (setting == setting::OtherPortAddress) form.otherPortAddress.present(s.ControlValues(setting));
+    if (setting != setting::OtherPortId) return;
+    showPortOfSettings(s);
+    form.otherPortName.present(s.ControlValues(setting));
 }
 
 /// A file that could not be read at the start may hold good settings: it is kept beside before a new one
@@ -43,7 +53,8 @@ void WriteControlFile(Station& s) {
 void ReadControlFile(Station& s) {
     try {
         if (lengthOfFile(s) == 0) WriteControlFile(s);
-        control::parse(s.platform.files.read(kControlFile), s.ControlValues, {});
+        control::parse(s.platform.files.read(kControlFile), s.ControlValues,
+                       [&s](int setting) { showPortSetting(s, setting); });
     } catch (const FileError& error) {
         SetControlDefaults(s);
         s.session.controlFileUnread = true;

@@ -2,6 +2,7 @@
 #include "setup/main_form.h"
 
 #include "bandsw/band_change.h"
+#include "bandsw/band_encoder.h"
 #include "base/number.h"
 #include "base/text.h"
 #include "contest/activity.h"
@@ -12,6 +13,7 @@
 #include "core/log_file.h"
 #include "core/say.h"
 #include "core/search.h"
+#include "keyer/cw_setup.h"
 #include "lookup/lookups.h"
 #include "setup/settings_on_screen.h"
 #include "setup/utc_clock.h"
@@ -202,7 +204,9 @@ void frmLog_Load(Station& s) {
     form.Label4.setBackColour(forms::kRed);
     ClearEntry(s);
     showLaterSettings(s);
+    startBandEncoder(s);
     loadActivityHours(s, activityFile(session.ContestNumber));
     markDistanceContest(s);
+    startKeyer(s);
     form.focus(form.CallS);
 }

@@ -5,6 +5,7 @@
 #include "contest/contest_table.h"
 #include "core/accept_prompt.h"
 #include "core/search.h"
+#include "keyer/cw_setup.h"
 
 namespace {
 
@@ -54,7 +55,7 @@ void showHardware(Station& s) {
     const bool printer = is(s, setting::Printer, "1");
     form.fPrinter.setCaption(printer ? "Printer ON" : "Printer OFF");
     markBox(form.fPrinter, printer);
-    markBox(form.cmdCkOK, is(s, setting::Cw, "CW"));
+    showCwSwitch(s);
     const bool minutes = text::lower(value(s, setting::ClockDisplay)) == "minutes";
     form.menu.mClockMinutes.setChecked(minutes);
     form.menu.mClockSeconds.setChecked(!minutes);

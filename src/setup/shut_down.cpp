@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "setup/shut_down.h"
 
+#include "bandsw/band_encoder.h"
 #include "core/accept_prompt.h"
 #include "core/log_file.h"
 #include "core/say.h"
@@ -14,6 +15,14 @@ void storeMenuMarks(Station& s) {
     if (menu.mPost.checked() && autoAccept(s)) s.ControlValues(setting::AcceptMode) = kEnterKey;
     s.ControlValues(setting::PrintLine1) = menu.m1Blank.checked() ? "print1line" : "0";
     s.ControlValues(setting::PrintLine2) = menu.m2Blank.checked() ? "print2lines" : "0";
+}
+
+/// The end may come while a message goes out; what follows asks the operator, and the transmitter must not
+/// stay on meanwhile.
+void releasePorts(Station& s) {
+    if (s.platform.ports.commOpen()) s.platform.ports.closeComm();
+    stopBandEncoder(s);
+    s.platform.ports.dropLines();
 }
 
 bool logHoldsQsos(Station& s) {
@@ -53,6 +62,7 @@ void dropLogWithoutQsos(Station& s) {
 void cmdExit_Click(Station& s) {
     storeMenuMarks(s);
     s.platform.windows.saveSize(s.forms.frmLog.name());
+    releasePorts(s);
     WriteControlFile(s);
     if (!logHoldsQsos(s)) dropLogWithoutQsos(s);
     endProgram();

@@ -49,6 +49,7 @@ void prepareSettings(Station& s) {
     form.Combo17.present(values(setting::SixDigit));
     form.Combo19.present(values(setting::ActivityDisplay));
     form.Combo20.present(values(setting::DistanceUnit));
+    s.forms.CWSetup.repeatDelay.present(values(setting::CwRepeatTime));
     s.forms.UTCfrm.load();
     s.forms.UTCfrm.Offset.setText(values(setting::UtcOffset));
     if (values(setting::CwPort) == "0" || values(setting::CwPort).empty()) values(setting::CwPort) = "1";

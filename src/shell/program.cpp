@@ -14,12 +14,14 @@
 #include "core/post_contest.h"
 #include "core/search.h"
 #include "export/exports.h"
+#include "keyer/function_keys.h"
 #include "setup/main_form.h"
 #include "setup/settings_on_screen.h"
 #include "setup/setup_fields.h"
 #include "setup/setup_screen.h"
 #include "setup/shut_down.h"
 #include "setup/utc_clock.h"
+#include "shell/keyer_wiring.h"
 
 namespace {
 
@@ -101,13 +103,21 @@ void wireEntry(Station& s) {
 
 /// The keys that act wherever the focus is.
 void frmLog_KeyDown(Station& s, forms::KeyStroke& stroke) {
+    bool keyed = false;
+    inKeySequence(s, [&] { keyed = CWKeyDown(s, stroke); });
+    if (keyed) {
+        stroke.swallowed = true;
+        return;
+    }
     const bool voiceKeyer = s.ControlValues(setting::Dvk) == "DVK";
     const bool up = stroke.key == forms::Key::PageUp || (stroke.key == forms::Key::F12 && !voiceKeyer);
     const bool down = stroke.key == forms::Key::PageDown || (stroke.key == forms::Key::F11 && !voiceKeyer);
     stroke.swallowed = up || down || stroke.key == forms::Key::Esc;
-    if (stroke.key == forms::Key::Esc) ResetQSO(s);
-    if (up) NextBand(s);
-    if (down) BandDown(s);
+    inKeySequence(s, [&] {
+        if (stroke.key == forms::Key::Esc) ResetQSO(s);
+        if (up) NextBand(s);
+        if (down) BandDown(s);
+    });
 }
 
 /// A click on a list that lies over the log closes it; a click on the summary lets its button go as well.
@@ -200,7 +210,7 @@ void disableWhatDoesNothing(Station& s) {
     form.menu.mnuOption1.setEnabled(false);
     form.menu.mStartDate.setEnabled(false);
     for (forms::Control* const control : std::initializer_list<forms::Control*>{
-             &form.ChangeFile, &form.cmdPLL, &form.cmdCkOK, &form.cmdDVK, &form.fPrinter}) {
+             &form.ChangeFile, &form.cmdPLL, &form.cmdDVK, &form.fPrinter}) {
         control->setEnabled(false);
     }
 }
@@ -214,13 +224,18 @@ void wireLogForm(Station& s) {
     wireLogWindow(s);
     wireMenu(s);
     wireExports(s);
+    wireKeyer(s);
     disableWhatDoesNothing(s);
 }
 
 }  // namespace
 
 Program::Program(Platform& platform) : station_(platform) {
-    station_.forms.screen.onFault = [&platform](const std::string& text) { platform.dialogs.fault(text); };
+    station_.forms.screen.onFault = [&platform](const std::string& text) {
+        // The box that tells of the fault may stand for hours.
+        platform.ports.dropLines();
+        platform.dialogs.fault(text);
+    };
     station_.forms.frmStart.onLoad = runs(station_, frmStart_Load);
     wireSetupForm(station_);
     wireContestForm(station_);

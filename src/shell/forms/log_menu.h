@@ -12,6 +12,8 @@ struct LogMenu {
         mShowDupe.setChecked(true);
         mNoLastGrid.setChecked(true);
         mClockSeconds.setChecked(true);
+        mCWSet.setEnabled(false);
+        mMorse.setEnabled(false);
     }
 
     forms::Form& form;
