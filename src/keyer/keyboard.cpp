@@ -38,10 +38,22 @@ void join(std::string& buffer, int code) {
     if (text::endsWith(buffer, "AR*") || text::endsWith(buffer, "SK*")) buffer += kEndMark;
 }
 
-/// The loop has ended; where the session was given up during its last character, the lines must not stay up.
+/// A key that runs inside another one's pump may have ended the session, and its own loop may have taken the
+/// cancel already.
+bool isOver(const Station& s) {
+    return s.session.CWCancel == 1 || s.forms.screen.active() != &s.forms.frmCWTX;
+}
+
+void stopLoop(Station& s) {
+    s.session.CWCancel = 0;
+    s.session.KeyDrainRunning = 0;
+    AllOff(s);
+}
+
+/// Where the session was given up during the last character, the lines must not stay up.
 void drained(Station& s) {
     s.session.KeyDrainRunning = 0;
-    if (s.session.CWCancel == 1) AllOff(s);
+    if (isOver(s)) AllOff(s);
 }
 
 void drain(Station& s) {
@@ -53,12 +65,7 @@ void drain(Station& s) {
     queue(s).setCaption(session.CWBuffer);
     while (true) {
         sending.timing = CWTiming(s);
-        if (session.CWCancel == 1) {
-            session.CWCancel = 0;
-            session.KeyDrainRunning = 0;
-            AllOff(s);
-            return;
-        }
+        if (isOver(s)) return stopLoop(s);
         if (session.CWBuffer == std::string(1, kEndMark)) return closeKeyboard(s);
         // Here the keys that were pressed meanwhile join the queue.
         s.platform.windows.pump();
@@ -79,6 +86,7 @@ void takeKey(Station& s, int code) {
     s.platform.windows.pump();
     // The loop further down the stack takes it.
     if (session.KeyDrainRunning != 0) return;
+    if (s.forms.screen.active() != &s.forms.frmCWTX) return;
     drain(s);
 }
 
@@ -123,6 +131,8 @@ void frmCWTX_KeyPress(Station& s, const forms::KeyPress& key) {
     try {
         takeKey(s, key.code);
     } catch (const RunTimeError& error) {
+        // The box may stand for hours, and the transmitter must not.
+        s.platform.ports.dropLines();
         warn(s, error.what());
     }
 }

@@ -120,6 +120,8 @@ void CWSendMessage(Station& s) {
         sendByKey(s, sending);
     } catch (const RunTimeError& error) {
         s.session.CWCancel = 0;
+        // The box may stand for hours, and the transmitter must not.
+        s.platform.ports.dropLines();
         warn(s, error.what());
         s.forms.CWSetup.cmdOK.setEnabled(true);
         s.forms.frmTX.hide();
