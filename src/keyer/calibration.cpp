@@ -44,7 +44,7 @@ void showPass(Station& s, int pass, double ratio) {
     form.Label3.setCaption(timeOfDay(s.platform.clock.local()));
 }
 
-/// The length of the word in parts of what it should be; nothing where the operator stopped it.
+/// What is shown meanwhile is how the run goes. The length of the word in parts of what it should be; nothing where the operator stopped it.
 std::optional<double> timedWord(Station& s, int address) {
     const Keying keying(s.platform.delay);
     Sending sending;
@@ -52,7 +52,7 @@ std::optional<double> timedWord(Station& s, int address) {
     sending.timing = CWTiming(s);
     s.session.CWBuffer = "PARIS";
     const float start = secondsNow(s);
-    if (sendBuffer(s, sending, s.forms.frmTX.Label2) == Sent::Cancelled) return std::nullopt;
+    if (sendBuffer(s, sending, nullptr) == Sent::Cancelled) return std::nullopt;
     const double ratio = static_cast<double>(secondsNow(s) - start) / kWordSeconds;
     return ratio == 0 ? 0.1 : ratio;
 }

@@ -73,15 +73,18 @@ std::string contentOfCurrentFile(Station& s) {
 }
 
 /// What the current file holds; nothing where it is empty or can't be used, which is told.
-std::optional<keyer::CwConfig> readCurrentFile(Station& s) {
+std::optional<keyer::CwConfig> readCurrentFile(Station& s, bool tells) {
     try {
         const std::string content = contentOfCurrentFile(s);
         if (!content.empty()) return keyer::parse(content, heldConfig(s.session));
     } catch (const FileError& error) {
-        tellFileFault(s, "Error. The CW setup file can't be used:", error,
-                      "The program goes on with the CW setup it has.");
+        if (tells)
+            tellFileFault(s, "Error. The CW setup file can't be used:", error,
+                          "The program goes on with the CW setup it has.");
     } catch (const RunTimeError& error) {
-        warn(s, "Error. The CW setup file " + s.session.CWConfigFile + " is damaged:" + kCrLf + error.what());
+        if (tells)
+            warn(s, "Error. The CW setup file " + s.session.CWConfigFile + " is damaged:" + kCrLf +
+                        error.what());
     }
     return std::nullopt;
 }
@@ -126,7 +129,9 @@ void showMessages(Station& s) {
 void loadCwFile(Station& s) {
     findCurrentFile(s);
     if (s.session.CWConfigFile.empty()) return;
-    if (const auto config = readCurrentFile(s)) holdFirstEight(s.session, *config);
+    // At the start the setup form reads the same file next, and tells of its faults.
+    const bool tells = s.forms.CWSetup.loaded();
+    if (const auto config = readCurrentFile(s, tells)) holdFirstEight(s.session, *config);
     notePort(s);
 }
 
@@ -138,7 +143,7 @@ void loadCwSetup(Station& s) {
 
 void takeCwFile(Station& s) {
     s.forms.CWSetup.Label19.setCaption(s.session.CWConfigFile);
-    const auto config = readCurrentFile(s);
+    const auto config = readCurrentFile(s, true);
     if (!config) return;
     holdAll(s.session, *config);
     notePort(s);

@@ -22,8 +22,10 @@ constexpr float kNormalWeight = 1.1F;
 
 std::string speedText(const Station& s) { return number::toText(std::int64_t{s.session.CWSpeed}); }
 
-std::string ask(Station& s, const std::string& text, const std::string& title, const std::string& offered) {
-    return s.platform.dialogs.prompt({text, title, offered}).value_or("");
+/// The operator's answer, empty where it is blank.
+std::string ask(Station& s, const std::string& question, const std::string& title, const std::string& offered) {
+    const std::string answer = s.platform.dialogs.prompt({question, title, offered}).value_or("");
+    return text::trim(answer).empty() ? std::string() : answer;
 }
 
 /// A number too large to be held is told, and the old one stays.

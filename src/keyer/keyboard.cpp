@@ -72,7 +72,7 @@ void drain(Station& s) {
         if (session.CWBuffer.empty()) return drained(s);
         sending.address = session.PortAddress;
         CWSendChar(s, sending);
-        dropSentCharacter(s, queue(s));
+        dropSentCharacter(s, &queue(s));
         if (session.CWBuffer.empty()) return drained(s);
     }
 }

@@ -20,7 +20,7 @@ const std::string& ownCall(const Station& s) { return s.PersonalData(personal::C
 
 Sent sendOut(Station& s, Sending& sending) {
     sending.address = s.session.PortAddress;
-    return sendBuffer(s, sending, s.forms.frmTX.Label2);
+    return sendBuffer(s, sending, &s.forms.frmTX.Label2);
 }
 
 /// Sends a text that the operator has stored; one that is empty is skipped, with the clock left as it is.

@@ -27,7 +27,10 @@ int chosenUart(Station& s) {
 
 std::string chosenComm(Station& s) {
     if (portIndex(s) < kOtherPort) return number::toText(portIndex(s));
-    return keyer::commPort(value(s, setting::OtherPortId));
+    const std::string port = keyer::commPort(value(s, setting::OtherPortId));
+    if (number::valueOf(port) < 1 && !text::startsWith(port, "/"))
+        throw PortError("There is no port \"" + value(s, setting::OtherPortId) + "\".");
+    return port;
 }
 
 void prepareLpt(Station& s) {
@@ -141,7 +144,7 @@ void otherPortName_Change(Station& s) {
 
 void otherPortName_Click(Station& s) {
     forms::ComboBox& box = s.forms.ConfigScrn.otherPortName;
-    box.present(text::left(box.text(), static_cast<int>(box.text().find(' '))));
+    box.present(box.text().substr(0, box.text().find(' ')));
     otherPortName_Change(s);
 }
 

@@ -55,9 +55,9 @@ void CWSendChar(Station& s, Sending& sending) {
     }
 }
 
-Sent sendBuffer(Station& s, Sending& sending, forms::Label& shown) {
+Sent sendBuffer(Station& s, Sending& sending, forms::Label* shown) {
     Session& session = s.session;
-    shown.setCaption(session.CWBuffer);
+    if (shown) shown->setCaption(session.CWBuffer);
     do {
         sending.timing = CWTiming(s);
         if (session.CWCancel == 1) {
@@ -72,8 +72,8 @@ Sent sendBuffer(Station& s, Sending& sending, forms::Label& shown) {
     return Sent::Whole;
 }
 
-void dropSentCharacter(Station& s, forms::Label& shown) {
+void dropSentCharacter(Station& s, forms::Label* shown) {
     if (!s.session.CWBuffer.empty()) s.session.CWBuffer.erase(0, 1);
-    shown.setCaption(s.session.CWBuffer);
+    if (shown) shown->setCaption(s.session.CWBuffer);
     s.platform.windows.pump();
 }

@@ -25,8 +25,9 @@ void CWSendChar(Station& s, Sending& sending);
 
 enum class Sent { Whole, Cancelled };
 /// Sends `CWBuffer` to its end, with the keys and timers that wait run before and after each character. A
-/// cancel stops it at the next character, with all lines off.
-Sent sendBuffer(Station& s, Sending& sending, forms::Label& shown);
+/// cancel stops it at the next character, with all lines off. What is left is shown, where there is a label
+/// for it.
+Sent sendBuffer(Station& s, Sending& sending, forms::Label* shown);
 
 /// Takes the character that was sent off the buffer, shows what is left, and lets events run.
-void dropSentCharacter(Station& s, forms::Label& shown);
+void dropSentCharacter(Station& s, forms::Label* shown);

@@ -179,4 +179,18 @@ TEST_F(Keys, ThatAreNoTextPutNothingIn) {
     EXPECT_EQ(form.first.text(), "");
 }
 
+TEST_F(Keys, GoThroughTheFormsOwnCharactersAheadOfTheControl) {
+    form.onKeyPress = [this](KeyPress& press) {
+        events.push_back("form " + std::to_string(press.code));
+        press.swallowed = press.code == 'b';
+    };
+    form.first.onKeyPress = [this](KeyPress& press) {
+        events.push_back("control " + std::to_string(press.code));
+    };
+    type("ab");
+    press(Key::F1);
+    EXPECT_THAT(events, ElementsAre("form 97", "control 97", "form 98"));
+    EXPECT_EQ(form.first.text(), "a");
+}
+
 }  // namespace

@@ -168,4 +168,21 @@ TEST_F(ScreenTest, FindsFormsAndControlsByNameCaseAndAll) {
     EXPECT_EQ(form.find("Button(3)"), nullptr);
 }
 
+TEST_F(ScreenTest, TellsAFormThatItIsLeft) {
+    form.onDeactivate = [this] { events.push_back("left"); };
+    other.onDeactivate = [this] { events.push_back("other left"); };
+    other.show();
+    EXPECT_THAT(events, ElementsAre("left"));
+    screen.click(form.button);
+    screen.click(form.button);
+    EXPECT_THAT(events, ElementsAre("left", "other left"));
+    form.hide();
+    EXPECT_THAT(events, ElementsAre("left", "other left", "left"));
+    // The form behind was not in front, so nothing leaves it.
+    form.show();
+    events.clear();
+    other.hide();
+    EXPECT_THAT(events, IsEmpty());
+}
+
 }  // namespace

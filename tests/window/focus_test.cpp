@@ -155,10 +155,10 @@ TEST(Focus, AfterEveryMenuItemTheCallFieldHasTheKeys) {
     int chosen = 0;
     for (const forms::Control* const control : desk.log().controls()) {
         const auto* const item = dynamic_cast<const forms::MenuItem*>(control);
-        // The item that ends the program is the one after which nothing is typed.
-        const bool leaf =
-            item && item->children().empty() && item->caption() != "-" && item->name() != "cmdExit";
-        if (!leaf || !item->reachable()) continue;
+        const bool leaf = item && item->children().empty() && item->caption() != "-";
+        // One item ends the program, and one opens a form of its own, which takes the keys.
+        const bool stays = leaf && item->name() != "cmdExit" && item->name() != "mBands";
+        if (!stays || !item->reachable()) continue;
         desk.beginAnew();
         desk.formWindow().menu()->actionOf(*item)->trigger();
         expectLanding(desk, "menu " + item->name());
