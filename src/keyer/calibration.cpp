@@ -44,7 +44,8 @@ void showPass(Station& s, int pass, double ratio) {
     form.Label3.setCaption(timeOfDay(s.platform.clock.local()));
 }
 
-/// What is shown meanwhile is how the run goes. The length of the word in parts of what it should be; nothing where the operator stopped it.
+/// What is shown meanwhile is how the run goes. The length of the word in parts of what it should be; nothing
+/// where the operator stopped it.
 std::optional<double> timedWord(Station& s, int address) {
     const Keying keying(s.platform.delay);
     Sending sending;
@@ -53,6 +54,8 @@ std::optional<double> timedWord(Station& s, int address) {
     s.session.CWBuffer = "PARIS";
     const float start = secondsNow(s);
     if (sendBuffer(s, sending, nullptr) == Sent::Cancelled) return std::nullopt;
+    // The last gap belongs to the word.
+    s.platform.delay.settle();
     const double ratio = static_cast<double>(secondsNow(s) - start) / kWordSeconds;
     return ratio == 0 ? 0.1 : ratio;
 }

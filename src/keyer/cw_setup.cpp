@@ -23,7 +23,8 @@ constexpr float kNormalWeight = 1.1F;
 std::string speedText(const Station& s) { return number::toText(std::int64_t{s.session.CWSpeed}); }
 
 /// The operator's answer, empty where it is blank.
-std::string ask(Station& s, const std::string& question, const std::string& title, const std::string& offered) {
+std::string ask(Station& s, const std::string& question, const std::string& title,
+                const std::string& offered) {
     const std::string answer = s.platform.dialogs.prompt({question, title, offered}).value_or("");
     return text::trim(answer).empty() ? std::string() : answer;
 }
