@@ -61,9 +61,10 @@ click_at() {
     xdotool mousemove --window "$WINDOW" "$x" "$y" click --repeat "$times" --delay 60 1
     sleep 0.3
 }
+# The arguments are variables of the program's environment.
 start() {
     cd "$work/station" || exit 1
-    "$BUILD_DIR/tarqen" 2>"$work/program.log" &
+    env "$@" "$BUILD_DIR/tarqen" 2>"$work/program.log" &
     program=$!
     pids+=("$program")
 }

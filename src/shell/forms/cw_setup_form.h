@@ -11,16 +11,16 @@ struct CwSetupForm : forms::Form {
     forms::Button cmdSpeed{*this, "cmdSpeed", "Speed"};
     forms::Button cmdWeight{*this, "cmdWeight", "Weight"};
     forms::Button Command2{*this, "Command2", "Normal weight"};
-    forms::TextBox repeatDelay{*this, "repeatDelay"};
     forms::ComboBox SpConstant{*this, "SpConstant"};
     forms::Button cmdCal{*this, "cmdCal", "Calibrate"};
+    forms::TextBox repeatDelay{*this, "repeatDelay"};
+    forms::FileListBox File1{*this, "File1"};
+    forms::Button Command1{*this, "Command1", "Save under a new name"};
+    forms::OptionButton CWCall{*this, "CWCall", "Call, then keyboard"};
+    forms::OptionButton IncSer{*this, "IncSer", "Call within the F1 message"};
     forms::Button cmdCom{*this, "cmdCom", "Port"};
     forms::CheckBox Check3D2{*this, "Check3D2", "Use PTT"};
     forms::Button cmdTest{*this, "cmdTest", "Test"};
-    forms::OptionButton CWCall{*this, "CWCall", "Call, then keyboard"};
-    forms::OptionButton IncSer{*this, "IncSer", "Call within the F1 message"};
-    forms::FileListBox File1{*this, "File1"};
-    forms::Button Command1{*this, "Command1", "Save under a new name"};
     forms::Button cmdOK{*this, "cmdOK", "OK"};
 
     forms::Label Label15{*this, "Label15"};

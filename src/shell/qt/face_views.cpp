@@ -29,6 +29,8 @@ ButtonView::ButtonView(forms::Captioned& control, QAbstractButton& button, Entra
     : ControlView(control, button, entrance), captioned_(control), button_(button) {
     // The form's routine clears the other options, as it does everywhere.
     button_.setAutoExclusive(false);
+    // A box or an option has the window for its ground, and not the face of a button as Qt would have it.
+    if (button_.isCheckable()) button_.setBackgroundRole(QPalette::Window);
     connect(&button_, &QAbstractButton::clicked, this, &ButtonView::clicked);
 }
 

@@ -30,7 +30,13 @@ bool WindowsFront::handleWindow(FormWindow& window, QEvent& event) {
         case QEvent::Close:
             // The form decides; its window goes when the form is hidden.
             event.ignore();
-            enter([&](forms::Screen& screen) { screen.dispatch([&] { window.form().close(); }); });
+            enter([&](forms::Screen& screen) {
+                screen.dispatch([&] {
+                    // The desktop may close a window ahead of telling that it has come to the front.
+                    screen.bringToFront(window.form());
+                    window.form().close();
+                });
+            });
             return true;
         case QEvent::WindowActivate:
             activated(window);
