@@ -18,7 +18,7 @@ void reachPort(Station& s) {
     try {
         s.platform.ports.reach(s.session.LPTAddress);
     } catch (const PortError& error) {
-        warn(s, error.what());
+        tell(s, error.what());
     }
 }
 

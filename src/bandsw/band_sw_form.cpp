@@ -125,7 +125,7 @@ void LPT1_Click(Station& s) {
     try {
         s.platform.ports.reach(s.session.LPTAddress);
     } catch (const PortError& error) {
-        warn(s, error.what());
+        tell(s, error.what());
     }
     writeTestCode(s);
 }

@@ -110,7 +110,7 @@ void cmdCal_Click(Station& s) {
         fault = error.what();
     }
     session.CWSpeed = speed;
-    if (!fault.empty()) warn(s, fault);
+    if (!fault.empty()) tell(s, fault);
     setup.cmdOK.setEnabled(true);
     form.hide();
     form.setTop(0);

@@ -36,7 +36,7 @@ bool changed(Station& s, const Change& change) {
         change();
         return true;
     } catch (const RunTimeError& error) {
-        warn(s, error.what());
+        tell(s, error.what());
         return false;
     }
 }
@@ -154,7 +154,7 @@ void cmdCom_Click(Station& s) {
         if (s.platform.ports.commOpen()) s.platform.ports.closeComm();
         s.forms.ConfigScrn.show();
     } catch (const RunTimeError&) {
-        warn(s, "That port is not available...");
+        tell(s, "That port is not available...");
     }
 }
 

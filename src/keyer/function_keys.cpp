@@ -95,7 +95,7 @@ void inKeySequence(Station& s, const std::function<void()>& statement) {
     try {
         statement();
     } catch (const RunTimeError&) {
-        warn(s,
+        tell(s,
              std::string("There is some error in the sequence") + kCrLf +
                  "or the message you are trying to send.",
              " Click OK and continue");

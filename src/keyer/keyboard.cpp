@@ -99,6 +99,8 @@ void leaveByKey(Station& s) {
     s.forms.frmLog.focus(s.forms.frmLog.CallS);
     s.forms.frmLog.Timer1.start();
     s.session.TXActive = 0;
+    // An error leaves the mark of a loop behind, which must not silence the next session.
+    s.session.KeyDrainRunning = 0;
 }
 
 }  // namespace
@@ -133,7 +135,7 @@ void frmCWTX_KeyPress(Station& s, const forms::KeyPress& key) {
     } catch (const RunTimeError& error) {
         // The box may stand for hours, and the transmitter must not.
         s.platform.ports.dropLines();
-        warn(s, error.what());
+        tell(s, error.what());
     }
 }
 
@@ -149,4 +151,5 @@ void frmCWTX_QueryClose(Station& s, bool& refuse) {
     frmCWTX_Deactivate(s);
     s.forms.frmCWTX.hide();
     s.session.TXActive = 0;
+    s.session.KeyDrainRunning = 0;
 }

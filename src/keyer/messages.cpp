@@ -42,12 +42,16 @@ void sendReady(Station& s, Sending& sending, std::string text) {
 
 double repeatSeconds(const Station& s) { return number::valueOf(s.ControlValues(setting::CwRepeatTime)); }
 
+/// The form was left, and another session that began since has taken the cancel away.
+bool isAbandoned(const Station& s) { return !s.forms.frmTX.visible() && s.session.CWCancel == 0; }
+
 void sendCqs(Station& s, Sending& sending) {
     const bool repeats = s.session.CWMessageKey == "RCQ";
     while (true) {
         s.forms.frmLog.Timer1.stop();
         s.forms.frmTX.Label3.setCaption(withControl(s, keyer::shownName(s.session.CWMessageKey)));
         s.platform.windows.pump();
+        if (isAbandoned(s)) return;
         // Without a pause nobody is invited to answer.
         const bool pauseless = s.ControlValues(setting::CwRepeatTime) == "0";
         s.session.CWBuffer =
@@ -122,7 +126,7 @@ void CWSendMessage(Station& s) {
         s.session.CWCancel = 0;
         // The box may stand for hours, and the transmitter must not.
         s.platform.ports.dropLines();
-        warn(s, error.what());
+        tell(s, error.what());
         s.forms.CWSetup.cmdOK.setEnabled(true);
         s.forms.frmTX.hide();
     }

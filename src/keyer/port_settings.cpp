@@ -83,7 +83,7 @@ void preparePortOrTell(Station& s) {
     try {
         preparePort(s);
     } catch (const RunTimeError& error) {
-        warn(s, error.what());
+        tell(s, error.what());
     }
 }
 
@@ -169,7 +169,7 @@ void OKButton_Click(Station& s) {
     try {
         preparePort(s);
     } catch (const RunTimeError& error) {
-        return warn(s, error.what());
+        return tell(s, error.what());
     }
     saveCwFile(s);
     form.unload();

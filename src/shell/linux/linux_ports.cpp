@@ -116,8 +116,9 @@ void LinuxPorts::write(int address, int byte) {
 }
 
 int LinuxPorts::read(int address) {
-    const Bound* const bound = reached(address);
-    return bound->device ? bound->device->read(address - bound->base) : 0;
+    // Only a port that is in use is read: opening one would move its lines.
+    const Bound* const bound = boundAt(address);
+    return bound && bound->device ? bound->device->read(address - bound->base) : 0;
 }
 
 void LinuxPorts::reach(int address) {

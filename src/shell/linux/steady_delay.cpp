@@ -13,7 +13,7 @@ constexpr std::int64_t kSecond = 1'000'000'000, kMicrosecond = 1'000;
 /// edge.
 constexpr std::int64_t kLeftForEvents = 25'000 * kMicrosecond;
 /// A sleep ends up to some hundred microseconds late; the rest is spun.
-constexpr std::int64_t kSpun = 1'000 * kMicrosecond;
+constexpr std::int64_t kSpun = 750 * kMicrosecond;
 /// Behind a longer hold-up the rhythm goes on from there: catching up would cut elements short.
 constexpr std::int64_t kCaughtUp = 1'000 * kMicrosecond;
 /// A thousand years.
