@@ -27,7 +27,8 @@ TEST(OtherInstance, IsToldAndEndsThisOneBeforeItTouchesAFile) {
     std::ostringstream out, errors;
     HeadlessMachine machine(files, out);
     AnotherRuns programs;
-    Platform platform{machine.clock, machine.dialogs, machine.files, programs, machine.windows};
+    Platform platform{machine.clock,   machine.dialogs, machine.files, programs,
+                      machine.windows, machine.ports,   machine.delay};
     Program program(platform);
     Player player(machine, {program.screen(), [&] { program.start(); }, {}});
     std::istringstream script("start\nclick frmSetup.cmdDone\n");

@@ -33,6 +33,16 @@ bool hasWidget(const forms::Control& control) {
            dynamic_cast<const forms::MenuItem*>(&control) == nullptr;
 }
 
+/// The widget of a control, which bears its name. An element of a control array has underscores for the
+/// brackets in the layout, which wants names of C++.
+QWidget* widgetOf(const QWidget& window, const std::string& control) {
+    const QString name = codec::toQt(control);
+    if (auto* const widget = window.findChild<QWidget*>(name)) return widget;
+    auto* const element = window.findChild<QWidget*>(QString(name).replace('(', '_').replace(')', '_'));
+    if (element) element->setObjectName(name);
+    return element;
+}
+
 /// The parts that Qt makes inside its own widgets, and the frames of a window, have no control.
 bool isQtsOwn(const QWidget& widget) {
     const QString name = widget.objectName();
@@ -69,7 +79,7 @@ void FormWindow::bind(Entrance& entrance) {
     for (forms::Control* const control : form_.controls()) {
         if (!hasWidget(*control)) continue;
         const std::string place = form_.name() + "." + control->name();
-        auto* const widget = window_->findChild<QWidget*>(codec::toQt(control->name()));
+        QWidget* const widget = widgetOf(*window_, control->name());
         if (widget == nullptr) throw LayoutError("The control " + place + " has no widget.");
         auto view = makeView(*control, *widget, entrance);
         if (!view) {
