@@ -106,6 +106,8 @@ void cmdCal_Click(Station& s) {
     std::string fault;
     try {
         calibrate(s);
+        session.CWSpeed = speed;
+        CWTiming(s);
     } catch (const RunTimeError& error) {
         fault = error.what();
     }

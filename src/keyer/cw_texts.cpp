@@ -80,7 +80,10 @@ std::string_view shownName(std::string_view running) {
     return shown.empty() ? running : shown;
 }
 
-std::string twoDigitSeconds(double seconds) { return text::digits(std::lround(seconds), 2); }
+std::string twoDigitSeconds(double seconds) {
+    constexpr double kMost = 1e9;
+    return text::digits(std::lround(std::clamp(seconds, -kMost, kMost)), 2);
+}
 
 std::optional<ConfigName> configName(std::string_view answer) {
     const bool ending = text::upper(text::right(answer, 4)) == ".CFG";

@@ -111,7 +111,11 @@ bool CWKeyDown(Station& s, const forms::KeyStroke& stroke) {
         return true;
     }
     if (stroke.key == Key::F1) {
-        s.session.F1CallKeyboard == 1 ? callThenKeyboard(s) : callInsideMessage(s);
+        if (s.session.F1CallKeyboard == 1) {
+            callThenKeyboard(s);
+        } else if (s.session.F1CallNormal == 1) {
+            callInsideMessage(s);
+        }
         return true;
     }
     if (stroke.key != Key::F8 && stroke.key != Key::Ctrl) return false;

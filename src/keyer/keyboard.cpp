@@ -50,10 +50,10 @@ void stopLoop(Station& s) {
     AllOff(s);
 }
 
-/// Where the session was given up during the last character, the lines must not stay up.
-void drained(Station& s) {
+/// A character that went out after the session was given up has left the lines up.
+void drained(Station& s, bool sentTooLate) {
     s.session.KeyDrainRunning = 0;
-    if (isOver(s)) AllOff(s);
+    if (sentTooLate) AllOff(s);
 }
 
 void drain(Station& s) {
@@ -69,11 +69,12 @@ void drain(Station& s) {
         if (session.CWBuffer == std::string(1, kEndMark)) return closeKeyboard(s);
         // Here the keys that were pressed meanwhile join the queue.
         s.platform.windows.pump();
-        if (session.CWBuffer.empty()) return drained(s);
+        const bool over = isOver(s);
+        if (session.CWBuffer.empty()) return drained(s, false);
         sending.address = session.PortAddress;
         CWSendChar(s, sending);
         dropSentCharacter(s, &queue(s));
-        if (session.CWBuffer.empty()) return drained(s);
+        if (session.CWBuffer.empty()) return drained(s, over);
     }
 }
 
@@ -86,7 +87,6 @@ void takeKey(Station& s, int code) {
     s.platform.windows.pump();
     // The loop further down the stack takes it.
     if (session.KeyDrainRunning != 0) return;
-    if (s.forms.screen.active() != &s.forms.frmCWTX) return;
     drain(s);
 }
 

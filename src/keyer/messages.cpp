@@ -42,9 +42,6 @@ void sendReady(Station& s, Sending& sending, std::string text) {
 
 double repeatSeconds(const Station& s) { return number::valueOf(s.ControlValues(setting::CwRepeatTime)); }
 
-/// The form was left, and another session that began since has taken the cancel away.
-bool isAbandoned(const Station& s) { return !s.forms.frmTX.visible() && s.session.CWCancel == 0; }
-
 void sendCqs(Station& s, Sending& sending) {
     const bool repeats = s.session.CWMessageKey == "RCQ";
     while (true) {
@@ -135,6 +132,8 @@ void CWSendMessage(Station& s) {
 void CWEndMessage(Station& s) {
     LogForm& log = s.forms.frmLog;
     s.forms.frmTX.hide();
+    // A key inside the message has opened the keyboard, whose lines and clock are its own.
+    if (s.forms.screen.active() == &s.forms.frmCWTX) return;
     AllOff(s);
     log.Timer4.stop();
     // A cancel in the pause between two CQs has hidden the form before the clock was stopped for the next

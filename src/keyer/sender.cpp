@@ -55,6 +55,8 @@ void CWSendChar(Station& s, Sending& sending) {
     }
 }
 
+bool isAbandoned(const Station& s) { return !s.forms.frmTX.visible() && s.session.CWCancel == 0; }
+
 Sent sendBuffer(Station& s, Sending& sending, forms::Label* shown) {
     Session& session = s.session;
     if (shown) shown->setCaption(session.CWBuffer);
@@ -66,8 +68,10 @@ Sent sendBuffer(Station& s, Sending& sending, forms::Label* shown) {
             return Sent::Cancelled;
         }
         s.platform.windows.pump();
+        if (isAbandoned(s)) return Sent::Cancelled;
         CWSendChar(s, sending);
         dropSentCharacter(s, shown);
+        if (isAbandoned(s)) return Sent::Cancelled;
     } while (!session.CWBuffer.empty());
     return Sent::Whole;
 }

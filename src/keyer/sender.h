@@ -23,10 +23,13 @@ struct Sending {
 /// Sends the first character of `CWBuffer`. It stays there, but for what a prosign takes off.
 void CWSendChar(Station& s, Sending& sending);
 
+/// Whether the form of the message was left, and another session that began since has taken the cancel away.
+bool isAbandoned(const Station& s);
+
 enum class Sent { Whole, Cancelled };
 /// Sends `CWBuffer` to its end, with the keys and timers that wait run before and after each character. A
-/// cancel stops it at the next character, with all lines off. What is left is shown, where there is a label
-/// for it.
+/// cancel stops it at the next character, with all lines off; a message that was abandoned leaves buffer and
+/// lines to the session that took them. What is left is shown, where there is a label for it.
 Sent sendBuffer(Station& s, Sending& sending, forms::Label* shown);
 
 /// Takes the character that was sent off the buffer, shows what is left, and lets events run.

@@ -144,7 +144,7 @@ constexpr std::array<std::pair<std::string_view, Reader>, 23> kCommands = {{
     {"pump", pump},
     {"port",
      [](LineReader& line) -> Command {
-         return Port{line.wholeInt(0, kMost), line.wholeInt(0, kMost)};
+         return Port{line.wholeInt(-32768, kMost), line.wholeInt(0, kMost)};
      }},
     {"line",
      [](LineReader& line) -> Command {

@@ -7,6 +7,7 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include <cstddef>
 #include <cstdint>
 
 namespace {
@@ -34,6 +35,14 @@ void setSlice(std::uint64_t nanoseconds) {
     ::syscall(SYS_sched_setattr, 0, &attributes, 0);
 }
 
+/// Touches and locks what the routines between two edges will use of the stack.
+void lockStack() {
+    constexpr std::size_t kRoom = 64UL * 1024;
+    volatile char room[kRoom];
+    for (std::size_t at = 0; at < kRoom; at += 1024) room[at] = 0;
+    ::mlock(const_cast<const char*>(room), kRoom);
+}
+
 }  // namespace
 
 void KeyingPriority::ask() {
@@ -41,13 +50,13 @@ void KeyingPriority::ask() {
     asked_ = true;
     sched_param priority{};
     ::sched_getparam(0, &priority);
-    formerPolicy_ = ::sched_getscheduler(0);
+    formerPolicy_ = ::sched_getscheduler(0) & ~SCHED_RESET_ON_FORK;
     formerPriority_ = priority.sched_priority;
     formerSlack_ = ::prctl(PR_GET_TIMERSLACK);
     ::prctl(PR_SET_TIMERSLACK, 1UL);
     // A page that has to be fetched between two edges is heard. Pages are locked as they are used: the rest
-    // of the program may be large.
-    ::mlockall(MCL_CURRENT | MCL_ONFAULT);
+    // of the program may be large. Where that is more than the user may lock, the stack alone is.
+    if (::mlockall(MCL_CURRENT | MCL_ONFAULT) != 0) lockStack();
     priority.sched_priority = kPriority;
     granted_ = ::sched_setscheduler(0, SCHED_FIFO | SCHED_RESET_ON_FORK, &priority) == 0;
     if (!granted_) setSlice(kShortSlice);
@@ -58,7 +67,8 @@ void KeyingPriority::giveBack() {
     asked_ = false;
     if (granted_) {
         const sched_param priority{formerPriority_};
-        ::sched_setscheduler(0, formerPolicy_, &priority);
+        // The kernel lets nobody but root take the flag away again, and refuses the whole call with it.
+        ::sched_setscheduler(0, formerPolicy_ | SCHED_RESET_ON_FORK, &priority);
     } else {
         setSlice(0);
     }

@@ -25,8 +25,12 @@ struct Watched {
 // The one state of the process that isn't in an object: a signal handler is handed nothing.
 std::array<Watched, 16> watched;
 
-constexpr std::array<int, 10> kSignals{SIGTERM, SIGINT, SIGHUP, SIGQUIT, SIGABRT,
-                                       SIGSEGV, SIGBUS, SIGFPE, SIGILL,  SIGPIPE};
+/// All that end a process unless it says otherwise.
+constexpr std::array<int, 20> kSignals{SIGTERM, SIGINT,  SIGHUP,  SIGQUIT, SIGABRT, SIGSEGV, SIGBUS,
+                                       SIGFPE,  SIGILL,  SIGPIPE, SIGUSR1, SIGUSR2, SIGALRM, SIGVTALRM,
+                                       SIGPROF, SIGXCPU, SIGXFSZ, SIGTRAP, SIGSYS,  SIGPWR};
+/// Those that hold it for as long as somebody likes.
+constexpr std::array<int, 3> kStops{SIGTSTP, SIGTTIN, SIGTTOU};
 std::array<struct sigaction, kSignals.size()> former;
 
 void endBySignal(int signal) {
@@ -40,6 +44,24 @@ void endBySignal(int signal) {
     ::raise(signal);
 }
 
+void stopBySignal(int) {
+    const int error = errno;
+    dropAll();
+    // No handler can stand in its way; behind it the program goes on, still guarded.
+    ::raise(SIGSTOP);
+    errno = error;
+}
+
+void catchStop(int signal) {
+    struct sigaction action {};
+    ::sigaction(signal, nullptr, &action);
+    if (action.sa_handler == SIG_IGN) return;
+    action = {};
+    action.sa_handler = stopBySignal;
+    action.sa_flags = SA_RESTART;
+    ::sigaction(signal, &action, nullptr);
+}
+
 /// A signal that the process ignores doesn't end it, and is left alone.
 void catchSignal(std::size_t at) {
     ::sigaction(kSignals[at], nullptr, &former[at]);
@@ -49,19 +71,19 @@ void catchSignal(std::size_t at) {
     ::sigaction(kSignals[at], &action, nullptr);
 }
 
+}  // namespace
+
 void catchEnds() {
     static const bool caught = [] {
         for (std::size_t at = 0; at < kSignals.size(); ++at) catchSignal(at);
+        for (const int signal : kStops) catchStop(signal);
         std::atexit(dropAll);
         return true;
     }();
     static_cast<void>(caught);
 }
 
-}  // namespace
-
 void watch(int descriptor, Kind kind) {
-    catchEnds();
     for (Watched& place : watched) {
         if (place.descriptor != kNone) continue;
         place.kind = kind;

@@ -7,7 +7,10 @@ namespace line_guard {
 
 enum class Kind { Serial, Parallel };
 
-/// From now on the lines of an open device drop when the process ends by a signal or by exit().
+/// From now on the process doesn't end or stop by a signal, nor end by exit(), with a line up. Before the
+/// first device is opened, which raises its lines.
+void catchEnds();
+/// From now on the lines of an open device drop so.
 void watch(int descriptor, Kind kind);
 /// Before the device is closed.
 void forget(int descriptor);

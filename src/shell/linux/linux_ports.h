@@ -34,14 +34,18 @@ private:
     struct Bound {
         int base = 0, last = 0;
         std::shared_ptr<PortDevice> device;
+        /// It couldn't be opened, which is tried again by reach() alone, since that takes time.
+        bool refused = false;
     };
     Bound* boundAt(int address);
-    /// The same, opening the device at the first use. A device that can't be opened is tried again by reach()
-    /// alone, since that takes time.
-    Bound* reached(int address);
     Bound& bind(int address);
     std::shared_ptr<PortDevice> open(const Bound& bound);
+    void openUnlessRefused(Bound& bound);
+    /// The device of a path where it is open already; null otherwise.
+    template <typename Lines>
+    std::shared_ptr<Lines> opened(const std::string& path) const;
     std::shared_ptr<SerialLines> openSerial(const std::string& path);
+    std::shared_ptr<PortDevice> openParallel(const std::string& path);
     std::string lptPath(int base);
 
     std::function<std::vector<std::string>()> lister_;
@@ -53,3 +57,9 @@ private:
 
 /// The device of a serial port by its number, or the path itself.
 std::string commPath(const std::string& port);
+
+/// The number of the parallel port at a base address. `found` says by number where the kernel has found
+/// ports; one of which it says nothing is taken for 888, 632 and 956 in this order, and for the other
+/// addresses in the order in which they come (`otherRank`, from 0). Nothing where the port that would be
+/// taken lies elsewhere.
+std::optional<int> parportOf(int base, const std::vector<std::optional<int>>& found, int otherRank);

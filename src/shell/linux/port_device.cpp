@@ -57,6 +57,7 @@ PortError refused(const std::string& path, int error, const Remedies& remedies) 
 }
 
 int opened(const std::string& path, const Remedies& remedies) {
+    line_guard::catchEnds();
     const int descriptor = ::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
     if (descriptor < 0) throw refused(path, errno, remedies);
     return descriptor;

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <map>
 
+#include "base/number.h"
 #include "shell/qt/codec.h"
 
 namespace {
@@ -18,9 +19,12 @@ constexpr int kFirstUsbPort = 5;
 std::map<std::string, std::string> lastingNames() {
     std::map<std::string, std::string> names;
     std::error_code error;
-    for (const fs::directory_entry& entry : fs::directory_iterator("/dev/serial/by-id", error)) {
-        const fs::path device = fs::canonical(entry.path(), error);
-        if (!error) names[device.string()] = entry.path().filename().string();
+    // An adapter may be pulled out while the folder is read.
+    for (fs::directory_iterator at("/dev/serial/by-id", error), end; !error && at != end;
+         at.increment(error)) {
+        std::error_code gone;
+        const fs::path device = fs::canonical(at->path(), gone);
+        if (!gone) names[device.string()] = at->path().filename().string();
     }
     return names;
 }
@@ -48,6 +52,11 @@ std::vector<std::string> serialPorts() {
         const auto name = names.find(device);
         ports.push_back(portOf(device) + (name == names.end() ? "" : "  " + name->second));
     }
-    std::sort(ports.begin(), ports.end());
+    const auto order = [](const std::string& port) {
+        const double number = number::valueOf(port);
+        return std::tuple(number == 0, number, port);
+    };
+    std::sort(ports.begin(), ports.end(),
+              [&](const std::string& one, const std::string& other) { return order(one) < order(other); });
     return ports;
 }
