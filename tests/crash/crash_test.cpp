@@ -6,6 +6,7 @@
 #include <spawn.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <chrono>
 #include <random>
 #include <string>
@@ -134,7 +135,10 @@ Microseconds timeOfAWholeRun() {
 }  // namespace
 
 TEST(Crash, EveryContactWhoseAcceptHadReturnedIsInTheLog) {
-    const auto whole = static_cast<double>(timeOfAWholeRun().count());
+    // The shortest of some: a run that the machine held up would spread the kills beyond the end of the
+    // others.
+    const Microseconds shortest = std::min({timeOfAWholeRun(), timeOfAWholeRun(), timeOfAWholeRun()});
+    const auto whole = static_cast<double>(shortest.count());
     std::mt19937 random(20070120);
     int killed = 0, amid = 0;
     for (int run = 0; run < kRuns; ++run) {

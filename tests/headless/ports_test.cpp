@@ -79,6 +79,13 @@ TEST(LinuxPorts, NumbersAndPathsNameTheDevices) {
     EXPECT_THROW(commPath(""), PortError);
 }
 
+TEST(LinuxPorts, NoPortLiesAmongTheMachinesOwnAddresses) {
+    LinuxPorts ports([] { return std::vector<std::string>(); });
+    ports.write(0, 0);
+    ports.write(255, 1);
+    EXPECT_THROW(ports.reach(2), PortError);
+}
+
 TEST(LinuxPorts, WhatIsNotOpenIsReadAsNothing) {
     LinuxPorts ports([] { return std::vector<std::string>{"5  adapter"}; });
     EXPECT_EQ(ports.read(1022), 0);

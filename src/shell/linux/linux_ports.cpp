@@ -12,6 +12,8 @@ namespace {
 constexpr std::array<int, 4> kUartBases{1016, 760, 1000, 744};
 constexpr std::array<int, 3> kLptBases{888, 632, 956};
 constexpr int kUartRegisters = 7, kLptRegisters = 8;
+/// Below lie the machine's own circuits, and what an address that was never set would reach.
+constexpr int kFirstPortAddress = 256;
 constexpr int kFirstUsbPort = 5, kMostParallelPorts = 8;
 
 template <std::size_t count>
@@ -28,6 +30,8 @@ std::optional<int> baseIn(const std::array<int, count>& bases, int registers, in
     }
     return std::nullopt;
 }
+
+bool isOwn(int address) { return address >= 0 && address < kFirstPortAddress; }
 
 /// Where the kernel has found its parallel ports.
 std::vector<std::optional<int>> foundParports() {
@@ -139,6 +143,7 @@ void LinuxPorts::openUnlessRefused(Bound& bound) {
 }
 
 void LinuxPorts::write(int address, int byte) {
+    if (isOwn(address)) return;
     const Bound* const known = boundAt(address);
     // Nothing is up on a port that was closed, and opening it would raise its lines for a moment.
     if (known && !known->device && byte == 0) return;
@@ -154,6 +159,7 @@ int LinuxPorts::read(int address) {
 }
 
 void LinuxPorts::reach(int address) {
+    if (isOwn(address)) throw PortError("There is no port at the address " + std::to_string(address) + ".");
     Bound& bound = bind(address);
     if (bound.device) return;
     bound.refused = true;
