@@ -41,6 +41,9 @@ TEST_F(ScriptedPorts, ReadWhatTheScriptHasSet) {
     EXPECT_EQ(ports.read(1022), 0);
     hardware.ports[1022] = 21;
     EXPECT_EQ(ports.read(1022), 21);
+    hardware.ports[-12270] = 5;
+    EXPECT_EQ(ports.read(-12270), 5);
+    EXPECT_EQ(ports.read(12270), 0);
     EXPECT_FALSE(ports.dsrHolding());
     hardware.linesOn.insert(InputLine::Dsr);
     EXPECT_TRUE(ports.dsrHolding());
@@ -92,6 +95,42 @@ TEST(LinuxPorts, WhatIsNotOpenIsReadAsNothing) {
     EXPECT_FALSE(ports.dsrHolding());
     EXPECT_FALSE(ports.commOpen());
     EXPECT_THAT(ports.commPorts(), testing::ElementsAre("5  adapter"));
+}
+
+/// What the kernel says of its parallel ports: nothing, but of those that are given.
+std::vector<std::optional<int>> foundAt(std::initializer_list<std::pair<std::size_t, int>> known) {
+    std::vector<std::optional<int>> found(8);
+    for (const auto& [number, base] : known) found[number] = base;
+    return found;
+}
+
+TEST(ParallelPorts, StandInTheUsualOrderWhereTheKernelIsSilent) {
+    const auto silent = foundAt({});
+    EXPECT_EQ(parportOf(888, silent, 0), 0);
+    EXPECT_EQ(parportOf(632, silent, 0), 1);
+    EXPECT_EQ(parportOf(956, silent, 0), 2);
+    EXPECT_EQ(parportOf(888, {}, 0), 0);
+}
+
+TEST(ParallelPorts, AtOtherAddressesFollowInTheOrderTheyCome) {
+    const auto silent = foundAt({});
+    EXPECT_EQ(parportOf(0x5000, silent, 0), 3);
+    EXPECT_EQ(parportOf(-12272, silent, 1), 4);
+}
+
+TEST(ParallelPorts, AreWhereTheKernelHasFoundThem) {
+    EXPECT_EQ(parportOf(888, foundAt({{1, 888}}), 0), 1);
+    EXPECT_EQ(parportOf(632, foundAt({{0, 632}, {1, 888}}), 0), 0);
+    EXPECT_EQ(parportOf(0x5000, foundAt({{0, 888}, {1, 0x5000}}), 0), 1);
+    // An address beyond 32767 is typed and kept with its sign.
+    EXPECT_EQ(parportOf(-12272, foundAt({{2, 0xD010}}), 0), 2);
+}
+
+TEST(ParallelPorts, AreNotGuessedWhereAnotherOneIsKnownToBe) {
+    EXPECT_EQ(parportOf(888, foundAt({{0, 632}}), 0), std::nullopt);
+    EXPECT_EQ(parportOf(632, foundAt({{1, 0xD010}}), 0), std::nullopt);
+    EXPECT_EQ(parportOf(0x5000, foundAt({{3, 0xD010}}), 0), std::nullopt);
+    EXPECT_EQ(parportOf(956, foundAt({{0, 888}, {1, 632}}), 0), 2);
 }
 
 }  // namespace

@@ -166,6 +166,11 @@ TEST(Script, ReadsDevicesPortsAndLines) {
     EXPECT_EQ(read<script::FailDevice>("fail run").device, Device::Run);
     EXPECT_EQ(read<script::Port>("port 889 128").number, 889);
     EXPECT_EQ(read<script::Port>("port 889 128").value, 128);
+    // The address of a register beyond 32767, as the program holds it.
+    EXPECT_EQ(read<script::Port>("port -12270 5").number, -12270);
+    EXPECT_EQ(read<script::Port>("port -12270 5").value, 5);
+    EXPECT_EQ(read<script::Port>("port -32768 1").number, -32768);
+    EXPECT_EQ(statusOf("port -32769 1"), 2);
     EXPECT_TRUE(read<script::Line>("line CTS on").on);
     EXPECT_FALSE(read<script::Line>("line DSR off").on);
     EXPECT_EQ(read<script::Unit>("unit 850.5").nanoseconds, 850.5);

@@ -184,12 +184,37 @@ config 60 1 0 E
 TAP_DENIED=/dev/parport0 keyed <<<$'show focus'
 refused "a parallel port of another group" "sudo usermod -aG lp"
 
+# With push-to-talk on, the second element of a message that is sent in the background has been keyed.
+wait_for_keying() {
+    for _ in $(seq 200); do
+        sleep 0.05
+        [ -e "$folder/tape" ] && [ "$(tape | grep -cE '(modem|control) [135]$')" -ge 3 ] && break
+    done
+}
+
+is_held() { grep -qs '^State:.*stopped' "/proc/$1/status"; }
+
+# A port that was given up for another choice is keyed again where none is made.
+station unchosen
+config 60 1 0 E
+keyed <<'END'
+click frmLog.mCWSet
+click CWSetup.cmdCom
+close ConfigScrn
+close CWSetup
+key F3
+END
+tape | sed '1,/close$/d' | grep -q "^/dev/ttyS0 modem 2" || fail "a port that was given up was not keyed again: $(tape)"
+expect_all_off "a port that was given up"
+
 # Every way out while a message goes out.
 long="EEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEE"
-ways=("uart_way:1:CW on LPT=no LPT CW" "usb_way:5:Other Com address format=USB:Use other COM port=Yes:Other Com port id=6"
-    "lpt_way:1:CW on LPT=LPT CW:PTT on LPT=Yes")
+# Name, port, what a keyed line looks like, settings.
+ways=("uart_way:1:modem 3:CW on LPT=no LPT CW"
+    "usb_way:5:modem [13]:Other Com address format=USB:Use other COM port=Yes:Other Com port id=6"
+    "lpt_way:1:control 5:CW on LPT=LPT CW:PTT on LPT=Yes")
 for way in "${ways[@]}"; do
-    IFS=: read -r name port one two three <<<"$way"
+    IFS=: read -r name port keyed_as one two three <<<"$way"
     prepare() {
         station "$name.$1" "$one" ${two:+"$two"} ${three:+"$three"}
         config 60 "$port" 1 "$long"
@@ -220,18 +245,36 @@ END
     expect_all_off "$name, run-time error"
 
     # A signal that a shell makes its background programs ignore is left out.
-    for signal in TERM HUP SEGV ABRT; do
+    for signal in TERM HUP SEGV ABRT USR1 ALRM XCPU XFSZ; do
         prepare "$signal"
         keyed <<<"key F3" 2>/dev/null &
-        for _ in $(seq 200); do
-            sleep 0.05
-            [ -e "$folder/tape" ] && [ "$(tape | grep -cE '(modem|control) [135]$')" -ge 3 ] && break
-        done
+        wait_for_keying
         kill -s "$signal" "$(<"$folder/pid")"
         wait $! 2>/dev/null
         expect_all_off "$name, SIG$signal"
         [ "$(tape | grep -cE '(modem|control) [35]$')" -lt 40 ] || fail "$name, SIG$signal: the message went to its end"
     done
+
+    # Held by its terminal it leaves the channel free, and goes on when it may.
+    prepare TSTP
+    config 60 "$port" 1 "${long:0:20}"
+    keyed <<<"key F3" 2>/dev/null &
+    wait_for_keying
+    pid=$(<"$folder/pid")
+    kill -s TSTP "$pid"
+    for _ in $(seq 200); do
+        is_held "$pid" && break
+        sleep 0.05
+    done
+    is_held "$pid" || fail "$name, SIGTSTP: the program was not held"
+    tape | tail -n 1 | grep -qE "(modem|control) 0$" ||
+        fail "$name, SIGTSTP: it was held with its lines on: $(tape | tail -n 3)"
+    kill -s CONT "$pid"
+    wait $! || fail "$name, SIGCONT: the program did not come to its end"
+    expect_all_off "$name, SIGCONT"
+    # On USB the key's line is DTR alone, and nothing raises the other one again within the message.
+    elements=$(tape | sed -E '1,/(exclusive|claim)$/d' | grep -cE "$keyed_as\$")
+    [ "$elements" -eq 20 ] || fail "$name, SIGCONT: $elements of 20 elements were sent"
 done
 
 [ $failures -eq 0 ] && echo "lines: every line does what it should"
