@@ -4,10 +4,26 @@
 #include <gtest/gtest.h>
 #include <sched.h>
 #include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
+constexpr int kGivenBack = 0, kKept = 1, kNoOtherUser = 2, kRefused = 77;
+
 int policy() { return ::sched_getscheduler(0) & ~SCHED_RESET_ON_FORK; }
+
+/// What becomes of real-time priority that was asked for by a user who may, and is given back by one who may
+/// nothing.
+int givenBackByAnybody() {
+    KeyingPriority priority;
+    priority.ask();
+    if (!priority.granted() || policy() != SCHED_FIFO) return kRefused;
+    constexpr uid_t kNobody = 65534;
+    if (geteuid() == 0 && setuid(kNobody) != 0) return kNoOtherUser;
+    priority.giveBack();
+    return policy() == SCHED_OTHER ? kGivenBack : kKept;
+}
 
 }  // namespace
 
@@ -25,4 +41,16 @@ TEST(KeyingPriority, GivesBackWhatTheThreadHad) {
         EXPECT_FALSE(priority.granted());
         priority.giveBack();
     }
+}
+
+TEST(KeyingPriority, IsGivenBackWithoutTheRightsItWasAskedWith) {
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) _exit(givenBackByAnybody());
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFEXITED(status));
+    if (WEXITSTATUS(status) == kRefused || WEXITSTATUS(status) == kNoOtherUser)
+        GTEST_SKIP() << "real-time priority is refused here";
+    EXPECT_EQ(WEXITSTATUS(status), kGivenBack);
 }
