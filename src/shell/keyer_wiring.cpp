@@ -7,14 +7,9 @@
 #include "keyer/keyboard.h"
 #include "keyer/messages.h"
 #include "keyer/port_settings.h"
+#include "shell/wiring.h"
 
 namespace {
-
-using Routine = void (*)(Station&);
-
-std::function<void()> runs(Station& s, Routine routine) {
-    return [&s, routine] { routine(s); };
-}
 
 void wireTransmitForms(Station& s) {
     TransmitForm& message = s.forms.frmTX;

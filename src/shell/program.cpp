@@ -22,14 +22,9 @@
 #include "setup/shut_down.h"
 #include "setup/utc_clock.h"
 #include "shell/keyer_wiring.h"
+#include "shell/wiring.h"
 
 namespace {
-
-using Routine = void (*)(Station&);
-
-std::function<void()> runs(Station& s, Routine routine) {
-    return [&s, routine] { routine(s); };
-}
 
 void wireContestForm(Station& s) {
     ContestForm& form = s.forms.frmContest;

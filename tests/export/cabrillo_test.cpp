@@ -7,29 +7,11 @@
 #include "contest/contest_table.h"
 #include "core/sample_log.h"
 #include "export/category.h"
+#include "export/sample_station.h"
 
 using namespace exporting;
 
 namespace {
-
-Personal station() {
-    Personal data;
-    data(personal::Call) = "K3ABC";
-    data(personal::Name) = "Pat Operator";
-    data(personal::Address) = "1 Hill Road";
-    data(personal::City) = "Town, PA 19000";
-    data(personal::Grid) = "FN20AB";
-    data(personal::Club) = "Warminster ARC";
-    data(personal::Section) = "EPA";
-    data(personal::OperatorCategory) = "SINGLE-OP";
-    data(personal::Operators) = "W1AW K2DEF";
-    data(personal::MoreOperators) = "N3GHI";
-    data(personal::Power) = "LOW";
-    data(personal::StationCategory) = "FIXED";
-    data(personal::Transmitter) = "ONE";
-    data(personal::BandCategory) = "144";
-    return data;
-}
 
 Session sessionOf(const std::string& number, const std::vector<std::string>& lines = {}) {
     Session session;
@@ -119,14 +101,14 @@ TEST(CabrilloOperators, OwnCallLosesASuffixOfOneCharacter) {
                           {"VE3-W1ABC_R", "VE3/W1ABC"}, {"VE3-W1ABC-R", "VE3/W1ABC-R"},
                           {"VE3_W1ABC-R", "VE3/W1ABC"}, {"", ""}};
     for (const auto& [call, operators] : cases) {
-        Personal data = station();
+        Personal data = sampleStation();
         data(personal::Call) = call;
         EXPECT_EQ(cabrilloOperators(data), operators) << call;
     }
 }
 
 TEST(CabrilloOperators, SeveralAreThoseOfTheTwoFields) {
-    Personal data = station();
+    Personal data = sampleStation();
     data(personal::OperatorCategory) = "Multi-Op";
     EXPECT_EQ(cabrilloOperators(data), "W1AW K2DEF N3GHI");
     data(personal::MoreOperators).clear();
@@ -156,7 +138,7 @@ TEST(Category, IsToldByItsFirstLettersInAnyCase) {
 }
 
 TEST(CabrilloHead, OfASingleOperator) {
-    EXPECT_EQ(cabrilloHead(sessionOf("1"), station(), "1,234"),
+    EXPECT_EQ(cabrilloHead(sessionOf("1"), sampleStation(), "1,234"),
               "START-OF-LOG: 3.0\r\n"
               "CREATED-BY: TARQEN v4.0\r\n"
               "LOCATION: EPA\r\n"
@@ -177,7 +159,7 @@ TEST(CabrilloHead, OfASingleOperator) {
 }
 
 TEST(CabrilloHead, OfSeveralOperatorsHasThePowerBeforeTheStation) {
-    Personal data = station();
+    Personal data = sampleStation();
     data(personal::OperatorCategory) = "MULTI-OP";
     data(personal::Transmitter) = "TWO";
     const std::string head = cabrilloHead(sessionOf("31"), data, "");
@@ -218,8 +200,8 @@ TEST(CabrilloFile, HoldsEveryLineInOrderDupesIncluded) {
     const Session session = sessionOf(
         "1", {sample::lineOf({"1296", "W1XYZ", "FN31pr", "1-1296", "4"}),
               sample::lineOf({"903", "W1XYZ", "FN31", "", "0"}), sample::lineOf({"Laser", "K2A", "FN21"})});
-    const std::string file = cabrilloFile(session, station(), "8");
-    const std::string head = cabrilloHead(session, station(), "8");
+    const std::string file = cabrilloFile(session, sampleStation(), "8");
+    const std::string head = cabrilloHead(session, sampleStation(), "8");
     EXPECT_EQ(file, head +
                         "QSO:  1.2G PH 2007-01-22 1435 K3ABC             FN20ab W1XYZ             FN31pr\r\n"
                         "QSO:   902 PH 2007-01-22 1435 K3ABC             FN20ab W1XYZ             FN31\r\n"
@@ -228,14 +210,15 @@ TEST(CabrilloFile, HoldsEveryLineInOrderDupesIncluded) {
 }
 
 TEST(CabrilloFile, OfALogWithoutQsosHasHeadAndEnd) {
-    EXPECT_EQ(cabrilloFile(sessionOf("1"), station(), ""),
-              cabrilloHead(sessionOf("1"), station(), "") + "END-OF-LOG:\r\n");
+    EXPECT_EQ(cabrilloFile(sessionOf("1"), sampleStation(), ""),
+              cabrilloHead(sessionOf("1"), sampleStation(), "") + "END-OF-LOG:\r\n");
     Session fresh = sessionOf("1");
     fresh.LogLineCount = 0;
-    EXPECT_EQ(cabrilloFile(fresh, station(), ""), cabrilloHead(fresh, station(), "") + "END-OF-LOG:\r\n");
+    EXPECT_EQ(cabrilloFile(fresh, sampleStation(), ""),
+              cabrilloHead(fresh, sampleStation(), "") + "END-OF-LOG:\r\n");
 }
 
 TEST(CabrilloFile, OfContest25CountsNotInGigahertz) {
-    const std::string file = cabrilloFile(sessionOf("25", {sample::lineOf({"1296"})}), station(), "");
+    const std::string file = cabrilloFile(sessionOf("25", {sample::lineOf({"1296"})}), sampleStation(), "");
     EXPECT_TRUE(text::contains(file, "\r\nQSO:   1.2 PH ")) << file;
 }

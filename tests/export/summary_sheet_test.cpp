@@ -7,26 +7,11 @@
 
 #include "base/text.h"
 #include "core/sample_log.h"
+#include "export/sample_station.h"
 
 using namespace exporting;
 
 namespace {
-
-Personal station() {
-    Personal data;
-    data(personal::Call) = "K3ABC";
-    data(personal::Name) = "Pat Operator";
-    data(personal::Address) = "1 Hill Road";
-    data(personal::City) = "Town, PA 19000";
-    data(personal::Grid) = "FN20AB";
-    data(personal::Club) = "Warminster ARC";
-    data(personal::Section) = "EPA";
-    data(personal::OperatorCategory) = "SINGLE-OP";
-    data(personal::Operators) = "W1AW K2DEF";
-    data(personal::MoreOperators) = "N3GHI";
-    data(personal::Power) = "LOW";
-    return data;
-}
 
 struct BandSums {
     int band, qsos, points, qsoPoints, grids, score;
@@ -92,7 +77,7 @@ std::string entryPart(const Personal& data) {
 
 TEST(SummarySheet, HasABandALineAndTheirTotals) {
     const Session session = sessionOf("2", {{1, 10, 1, 10, 5, 50}, {6, 2, 3, 6, 2, 12}});
-    EXPECT_EQ(summarySheet(session, station(), "06/11/07"),
+    EXPECT_EQ(summarySheet(session, sampleStation(), "06/11/07"),
               std::string(kHead) + kEntry + kColumns +
                   "    50         10     1      10            5             50 \r\n"
                   "    1296       2      3      6             2             12 \r\n" +
@@ -105,14 +90,14 @@ TEST(SummarySheet, HasABandALineAndTheirTotals) {
 
 TEST(SummarySheet, OfContest19HasNeitherTotalsNorAClaimedScore) {
     const Session session = sessionOf("19", {{5, 3, 1, 3, 2, 6}});
-    EXPECT_EQ(summarySheet(session, station(), "06/11/07"),
+    EXPECT_EQ(summarySheet(session, sampleStation(), "06/11/07"),
               std::string(kHead) + kEntry + kColumns +
                   "    903        3      1      3             2             6 \r\n" + kRule + "\r\n" +
                   kDeclaration);
 }
 
 TEST(SummarySheet, OfNothingWorkedIsAllNoughts) {
-    EXPECT_EQ(summarySheet(sessionOf("2", {}), station(), "06/11/07"),
+    EXPECT_EQ(summarySheet(sessionOf("2", {}), sampleStation(), "06/11/07"),
               std::string(kHead) + kEntry + kColumns + kRule +
                   "    TOTALS     0             0             0             0 \r\n"
                   "\r\n"
@@ -123,7 +108,7 @@ TEST(SummarySheet, OfNothingWorkedIsAllNoughts) {
 TEST(SummarySheet, HoldsTheBandsThatAreMarkedAsWorkedAlone) {
     Session session = sessionOf("2", {{13, 0, 4, 0, 0, 0}});
     session.BandQSOs(12) = 5;
-    const std::string sheet = summarySheet(session, station(), "06/11/07");
+    const std::string sheet = summarySheet(session, sampleStation(), "06/11/07");
     EXPECT_TRUE(text::contains(sheet, "    Laser      0      4      0             0             0 \r\n"))
         << sheet;
     EXPECT_FALSE(text::contains(sheet, "47000")) << sheet;
@@ -131,7 +116,7 @@ TEST(SummarySheet, HoldsTheBandsThatAreMarkedAsWorkedAlone) {
 
 TEST(SummarySheet, ShowsLargeFiguresInPlainDigits) {
     const Session session = sessionOf("1", {{7, 2500, 8, 20000, 1000, 20000000}});
-    const std::string sheet = summarySheet(session, station(), "06/11/07");
+    const std::string sheet = summarySheet(session, sampleStation(), "06/11/07");
     EXPECT_TRUE(
         text::contains(sheet, "    2304       2500   8      20000         1000          20000000 \r\n"))
         << sheet;
@@ -139,13 +124,13 @@ TEST(SummarySheet, ShowsLargeFiguresInPlainDigits) {
 }
 
 TEST(SummarySheet, CutsTheGridToItsSquare) {
-    Personal data = station();
+    Personal data = sampleStation();
     data(personal::Grid) = "FN20";
     EXPECT_TRUE(text::startsWith(summarySheet(sessionOf("2", {}), data, "06/11/07"), kHead));
 }
 
 TEST(SummarySheet, NamesTheOperatorsOfAMultiOperatorEntry) {
-    Personal data = station();
+    Personal data = sampleStation();
     data(personal::OperatorCategory) = "MULTI-OP";
     EXPECT_EQ(entryPart(data),
               "\r\n"
@@ -162,7 +147,7 @@ TEST(SummarySheet, NamesTheOperatorsOfAMultiOperatorEntry) {
 }
 
 TEST(SummarySheet, NamesTheClubBehindItsOwnCall) {
-    Personal data = station();
+    Personal data = sampleStation();
     data(personal::Call) = "SIGRAINI";
     EXPECT_FALSE(text::contains(entryPart(data), "Praituna")) << "a single operator is no club";
     data(personal::OperatorCategory) = "multi-op";
